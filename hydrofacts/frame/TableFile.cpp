@@ -1,0 +1,62 @@
+#include "hydrofacts/frame/TableFile.h"
+
+#include <cstddef>
+#include <cstring>
+
+#include "quillbase/Numbers.h"
+#include "win32/Win32.h"
+
+int ReadDoubleField(char* line, double* value) {
+    const char* field = hydrofacts::NextField(line);
+    if (field == nullptr) return 0;
+    return quillbase::ScanReal(field, value) != quillbase::kNoNumber ? 1 : 0;
+}
+
+namespace hydrofacts {
+
+char* NextField(char* line) {
+    constexpr const char* kDelimiters = "\t\r";
+    thread_local char* rest = nullptr;
+    if (line != nullptr) rest = line;
+    if (rest == nullptr) return nullptr;
+
+    char* field = rest + std::strspn(rest, kDelimiters);
+    if (*field == '\0') {
+        rest = nullptr;
+        return nullptr;
+    }
+    char* end = field + std::strcspn(field, kDelimiters);
+    rest = *end == '\0' ? nullptr : end + 1;
+    *end = '\0';
+    return field;
+}
+
+bool LevelsAreWithin(char* line, double highLimit, double lowLimit) {
+    NextField(line);
+    NextField(nullptr);
+    NextField(nullptr);
+    double level = 0.0;
+    ReadDoubleField(nullptr, &level);
+    if (highLimit != 0.0 && highLimit < level) return false;
+    ReadDoubleField(nullptr, &level);
+    return lowLimit == 0.0 || !(lowLimit > level);
+}
+
+TablePath::TablePath(const char* directory, const char* name, const char* extension) : path_{} {
+    const std::size_t directoryLength = std::strlen(directory);
+    const std::size_t nameLength = std::strlen(name);
+    const std::size_t extensionLength = std::strlen(extension);
+    if (directoryLength + 1 + nameLength + extensionLength >= sizeof path_) return;
+
+    char* end = path_;
+    const auto append = [&end](const char* text, std::size_t length) {
+        std::memcpy(end, text, length);
+        end += length;
+    };
+    append(directory, directoryLength);
+    append(&win32::kPathSeparator, 1);
+    append(name, nameLength);
+    append(extension, extensionLength + 1);
+}
+
+}  // namespace hydrofacts

@@ -1,0 +1,40 @@
+#ifndef HYDROFACTS_FRAME_TABLEFILE_H
+#define HYDROFACTS_FRAME_TABLEFILE_H
+
+// What all table files have in common: their paths, how a line is cut into fields, the levels in
+// the version line.
+
+/// Takes the next field of a line as a real number, with a point as decimal sign. `line` starts a
+/// new line and is null to go on in the one begun. Returns 0 with `value` unchanged if there is no
+/// field or it begins with no number. A field of blanks counts as read and leaves `value` as it
+/// was.
+int ReadDoubleField(char* line, double* value);
+
+namespace hydrofacts {
+
+/// The next field of a line, or null behind the last one. Fields are separated by runs of tabs and
+/// carriage returns, so there are no empty ones; blanks belong to the field. The line is cut in
+/// place and the position is kept per thread. `line` is null to go on in the line begun.
+char* NextField(char* line);
+
+/// Tests the levels of a version line ("V"), which is cut: field 4, the low level, must not lie
+/// above `highLimit`, and field 5, the high level (field 4 again if it is missing), not below
+/// `lowLimit`. A limit of 0.0 tests nothing; a line without levels has level 0.0.
+bool LevelsAreWithin(char* line, double highLimit, double lowLimit);
+
+/// The path of a table file, "directory/name.EXT" with the platform's separator.
+class TablePath {
+  public:
+    /// `extension` comes with its point.
+    TablePath(const char* directory, const char* name, const char* extension);
+
+    /// The path; empty if it has 260 characters or more, so that no file opens on it.
+    const char* c_str() const { return path_; }
+
+  private:
+    char path_[260];
+};
+
+}  // namespace hydrofacts
+
+#endif

@@ -1,0 +1,10 @@
+#ifndef HYDROFACTS_FRAME_TABLENOTE_H
+#define HYDROFACTS_FRAME_TABLENOTE_H
+
+#include "win32/Win32.h"
+
+/// Shows a table's title and version in a control of a dialog, as "title - vers version"; empties
+/// the control if the file has no title line. Does nothing if the dialog has no such control.
+void ShowTableNote(const char* path, HWND dialog, int control);
+
+#endif

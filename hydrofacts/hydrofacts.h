@@ -1,0 +1,14 @@
+#ifndef HYDROFACTS_HYDROFACTS_H
+#define HYDROFACTS_HYDROFACTS_H
+
+/// All public headers of Hydrofacts.
+
+#include "hydrofacts/fluid/CFluid.h"
+#include "hydrofacts/formula/CFormula.h"
+#include "hydrofacts/frame/Language.h"
+#include "hydrofacts/units/Atmospheric_Pressure_Equations.h"
+#include "hydrofacts/units/UnitValue.h"
+#include "hydrofacts/units/Units.h"
+#include "quillbase/Directory.h"
+
+#endif

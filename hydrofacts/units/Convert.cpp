@@ -1,0 +1,58 @@
+// Conversion between two units of a measure, as far as it needs no fluid.
+
+#include "hydrofacts/units/Heads.h"
+#include "hydrofacts/units/Units.h"
+#include "quillbase/Conversion.h"
+
+using hydrofacts::IsHead;
+using hydrofacts::LengthOfHead;
+
+double Units::Convert(HF_UNIT_TYPES type, double value, int from, int to,
+                      const CFluid* fluid) const {
+    if (from == to) return value;
+    if (static_cast<unsigned>(type) >= kMeasures) return value;
+    if (from == HF_USER_UNIT) from = GetUserUnit(type);
+    if (to == HF_USER_UNIT) to = GetUserUnit(type);
+    if (from == to) return value;
+
+    switch (type) {
+        case HF_TEMPERATURE:
+            return ConvertTemp(value, static_cast<HF_TUNITS>(from), static_cast<HF_TUNITS>(to));
+        case HF_PRESSURE:
+        case HF_HEAD:
+        case HF_HEAD_2:
+            return ConvertPressureOrHead(value, from, to, fluid);
+        case HF_FLOW:
+            return Convert_Flow(value, static_cast<HF_FLOW_UNITS>(from),
+                                static_cast<HF_FLOW_UNITS>(to), fluid);
+        case HF_VISCOSITY:
+            return ConvertViscosity(value, from, to, fluid);
+        default:
+            return ConvertRatio(type, value, from, to);
+    }
+}
+
+double Units::Convert(HF_UNIT_TYPES type, double value, int from, const CFluid* fluid) const {
+    return Convert(type, value, from, HF_USER_UNIT, fluid);
+}
+
+double Units::Convert(HF_UNIT_TYPES type, double value, char* from, char* to) const {
+    const int fromId = GetUnit(from, type);
+    const int toId = GetUnit(to, type);
+    if (fromId == -1 || toId == -1) return value;
+    return Convert(type, value, fromId, toId, nullptr);
+}
+
+double Units::ConvertRatio(HF_UNIT_TYPES type, double value, int from, int to) const {
+    return FindRow(type, from).factor * value / FindRow(type, to).factor;
+}
+
+double Units::ConvertPressureOrHead(double value, int from, int to, const CFluid* fluid) const {
+    const bool fromHead = IsHead(from);
+    const bool toHead = IsHead(to);
+    if (fromHead && toHead) {
+        return Convert(HF_LENGTH, value, LengthOfHead(from), LengthOfHead(to), fluid);
+    }
+    if (fromHead || toHead) return CrossHeadAndPressure(value, from, to, fluid);
+    return ConvertPressure(value, static_cast<HF_PUNITS>(from), static_cast<HF_PUNITS>(to));
+}

@@ -1,0 +1,106 @@
+#include "quillbase/Numbers.h"
+
+#include <charconv>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <string_view>
+#include <system_error>
+
+namespace quillbase {
+namespace {
+
+const char* SkipBlanks(const char* text) { return text + std::strspn(text, " \t\n\v\f\r"); }
+
+struct Notation {
+    std::chars_format format;
+    const char* digits;    // what may stand in the number's body
+    const char* exponent;  // the letters that begin the exponent
+    int digitWeight;       // what one digit adds to the exponent
+};
+
+// clang-format off
+constexpr Notation kDecimal     = {std::chars_format::general, "0123456789",             "eE", 1};
+constexpr Notation kHexadecimal = {std::chars_format::hex,     "0123456789abcdefABCDEF", "pP", 4};
+// clang-format on
+
+long long ScanExponent(const char* text) {
+    if (*text == '+') ++text;
+    long long exponent = 0;
+    const auto result = std::from_chars(text, text + std::strlen(text), exponent);
+    if (result.ec == std::errc::result_out_of_range) {
+        constexpr long long kHuge = std::numeric_limits<int>::max();
+        return *text == '-' ? -kHuge : kHuge;
+    }
+    return exponent;
+}
+
+// Only called for numbers that no double holds, so the rough order of magnitude decides.
+double BeyondDouble(const char* body, const Notation& notation) {
+    const char* integerEnd = body + std::strspn(body, notation.digits);
+    const char* first = body + std::strspn(body, "0");
+    long long order = (integerEnd - first) * notation.digitWeight;
+    const char* end = integerEnd;
+    if (*end == '.') {
+        const char* fraction = end + 1;
+        if (first == integerEnd) {
+            order = -static_cast<long long>(std::strspn(fraction, "0")) * notation.digitWeight;
+        }
+        end = fraction + std::strspn(fraction, notation.digits);
+    }
+    if (*end != '\0' && std::strchr(notation.exponent, *end) != nullptr) {
+        order += ScanExponent(end + 1);
+    }
+    return order > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+}
+
+int StoreUnsigned(const char* body, const Notation& notation, double* value) {
+    if (*body == '-') return kNoNumber;
+    const char* end = body + std::strlen(body);
+    const auto result = std::from_chars(body, end, *value, notation.format);
+    if (result.ec == std::errc::invalid_argument) return kNoNumber;
+    if (result.ec == std::errc::result_out_of_range) *value = BeyondDouble(body, notation);
+    return 1;
+}
+
+}  // namespace
+
+int ScanReal(const char* text, double* value) {
+    const char* start = SkipBlanks(text);
+    if (*start == '\0') return kBlankText;
+    const bool negative = *start == '-';
+    const char* body = start + (*start == '-' || *start == '+' ? 1 : 0);
+
+    const bool hexadecimal = body[0] == '0' && (body[1] == 'x' || body[1] == 'X');
+    double magnitude = 0.0;
+    const int result = hexadecimal ? StoreUnsigned(body + 2, kHexadecimal, &magnitude)
+                                   : StoreUnsigned(body, kDecimal, &magnitude);
+    if (result == 1) *value = negative ? -magnitude : magnitude;
+    return result;
+}
+
+int ScanInteger(const char* text, std::int32_t* value) {
+    const char* start = SkipBlanks(text);
+    if (*start == '\0') return kBlankText;
+    char* end = nullptr;
+    const long long number = std::strtoll(start, &end, 0);
+    if (end == start) return kNoNumber;
+    *value = static_cast<std::int32_t>(number);
+    return 1;
+}
+
+int ScanShort(const char* text, std::int16_t* value) {
+    std::int32_t number = 0;
+    const int result = ScanInteger(text, &number);
+    if (result == 1) *value = static_cast<std::int16_t>(number);
+    return result;
+}
+
+std::string RealToText(double value) {
+    constexpr std::size_t kLongest = 32;
+    char buffer[kLongest];
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+    return {buffer, result.ptr};
+}
+
+}  // namespace quillbase

@@ -1,0 +1,190 @@
+#include "quillbase/Rounding.h"
+
+#include <algorithm>
+#include <array>
+#include <boost/multiprecision/cpp_int.hpp>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+
+namespace {
+
+// Powers of ten up to 10²² are doubles without an error. With one of them a value scales by a
+// single rounding whose error is known exactly; beyond, whole numbers of any length do the work.
+constexpr int kExactPowers = 22;
+
+// clang-format off
+constexpr std::array<double, kExactPowers + 1> kPowersOfTen = {
+    1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22,
+};
+constexpr std::array<double, kExactPowers + 1> kInversePowersOfTen = {
+    1e-0,  1e-1,  1e-2,  1e-3,  1e-4,  1e-5,  1e-6,  1e-7,  1e-8,  1e-9,  1e-10, 1e-11,
+    1e-12, 1e-13, 1e-14, 1e-15, 1e-16, 1e-17, 1e-18, 1e-19, 1e-20, 1e-21, 1e-22,
+};
+// clang-format on
+
+constexpr double kAllWhole = 4503599627370496.0;  // 2⁵²: from here on a double has no fraction
+constexpr double kBeyondWhole =
+    9007199254740992.0;  // 2⁵³: from here on it has no last digit either
+
+double Power(int exponent) {
+    return exponent >= 0 ? kPowersOfTen[static_cast<std::size_t>(exponent)]
+                         : kInversePowersOfTen[static_cast<std::size_t>(-exponent)];
+}
+
+// Dekker's exact product: the rounding error of a × b, as a double. Written out because not every
+// platform's fma is exact.
+double ProductError(double a, double b, double product) {
+    constexpr double kSplitter = 134217729.0;  // 2²⁷ + 1
+    const auto high = [](double x) {
+        const double t = kSplitter * x;
+        return t - (t - x);
+    };
+    const double aHigh = high(a);
+    const double bHigh = high(b);
+    const double aLow = a - aHigh;
+    const double bLow = b - bHigh;
+    return ((aHigh * bHigh - product) + aHigh * bLow + aLow * bHigh) + aLow * bLow;
+}
+
+// Rounds `value` + `tail`, a tail of at most half a unit in the last place of the value.
+double RoundHalfUp(double value, double tail) {
+    if (value >= kAllWhole) return tail >= 0.5 ? value + 1.0 : value;
+    const double whole = std::floor(value);
+    const double fraction = value - whole;
+    const bool up = fraction > 0.5 || (fraction == 0.5 && tail >= 0.0);
+    return up ? whole + 1.0 : whole;
+}
+
+// The value, positive, to the nearest multiple of 10^-places, for |places| up to kExactPowers.
+double RoundByPower(double value, int places) {
+    const double power = Power(std::abs(places));
+    if (places >= 0) {
+        const double scaled = value * power;
+        if (scaled >= kBeyondWhole) return value;
+        return RoundHalfUp(scaled, ProductError(value, power, scaled)) / power;
+    }
+    const double scaled = value / power;
+    if (scaled >= kBeyondWhole) return value;
+    const double back = scaled * power;
+    const double rest = (value - back) - ProductError(scaled, power, back);
+    return RoundHalfUp(scaled, rest / power) * power;
+}
+
+using Whole = boost::multiprecision::cpp_int;
+
+struct Ratio {
+    Whole over;
+    Whole under = 1;
+};
+
+Whole TenTo(int exponent) {
+    return boost::multiprecision::pow(Whole(10), static_cast<unsigned>(exponent));
+}
+
+void MultiplyByTenTo(Ratio& ratio, int exponent) {
+    (exponent >= 0 ? ratio.over : ratio.under) *= TenTo(std::abs(exponent));
+}
+
+Ratio RatioOf(double value) {
+    int exponent = 0;
+    const double mantissa = std::ldexp(std::frexp(value, &exponent), 53);
+    exponent -= 53;
+    Ratio ratio{Whole(static_cast<std::int64_t>(mantissa))};
+    (exponent >= 0 ? ratio.over : ratio.under) <<= std::abs(exponent);
+    return ratio;
+}
+
+// The double nearest to a positive ratio, ties to even, subnormal numbers included.
+double Nearest(Ratio ratio) {
+    constexpr int kMantissaBits = 53;
+    constexpr int kLowestBit = -1074;
+    using boost::multiprecision::msb;
+    int exponent = static_cast<int>(msb(ratio.over)) - static_cast<int>(msb(ratio.under));
+    const bool tooHigh = exponent >= 0 ? ratio.over < (ratio.under << exponent)
+                                       : (ratio.over << -exponent) < ratio.under;
+    if (tooHigh) --exponent;
+    const int lastBit = std::max(exponent - (kMantissaBits - 1), kLowestBit);
+    (lastBit >= 0 ? ratio.under : ratio.over) <<= std::abs(lastBit);
+
+    Whole rest;
+    Whole mantissa;
+    divide_qr(ratio.over, ratio.under, mantissa, rest);
+    rest <<= 1;
+    if (rest > ratio.under || (rest == ratio.under && bit_test(mantissa, 0))) ++mantissa;
+    return std::ldexp(static_cast<double>(mantissa), lastBit);
+}
+
+// The same as RoundByPower for any number of places.
+double RoundByWholeNumbers(double value, int places) {
+    Ratio scaled = RatioOf(value);
+    MultiplyByTenTo(scaled, places);
+    Ratio rounded{(2 * scaled.over + scaled.under) / (2 * scaled.under)};
+    if (rounded.over == 0) return 0.0;
+    MultiplyByTenTo(rounded, -places);
+    return Nearest(rounded);
+}
+
+double RoundToPlaces(double value, int places) {
+    const double magnitude = std::fabs(value);
+    const double rounded = std::abs(places) <= kExactPowers
+                               ? RoundByPower(magnitude, places)
+                               : RoundByWholeNumbers(magnitude, places);
+    return rounded == 0.0 ? 0.0 : std::copysign(rounded, value);
+}
+
+bool AtLeastTenTo(double value, int exponent) {
+    if (std::abs(exponent) <= kExactPowers) return value >= Power(exponent);
+    Ratio ratio = RatioOf(value);
+    MultiplyByTenTo(ratio, -exponent);
+    return ratio.over >= ratio.under;
+}
+
+// The exponent of the first decimal digit of a positive value. Where a value lies within an inverse
+// power's own rounding error either answer rounds to the same decimal.
+int DecimalExponent(double value) {
+    constexpr double kLog10Of2 = 0.30102999566398120;
+    int binary = 0;
+    std::frexp(value, &binary);
+    const int lower = static_cast<int>(std::floor((binary - 1) * kLog10Of2));
+    return AtLeastTenTo(value, lower + 1) ? lower + 1 : lower;
+}
+
+constexpr int kDisplayDigits = 6;
+
+}  // namespace
+
+double Precision(double value, int n) {
+    constexpr int kAllDigits = 17;
+    if (value == 0.0 || !std::isfinite(value) || n >= kAllDigits) return value;
+    return RoundToPlaces(value, std::max(n, 1) - 1 - DecimalExponent(std::fabs(value)));
+}
+
+double DPlaces(double value, int n) {
+    constexpr int kAllPlaces = 400;  // no double has a digit that far from the point
+    if (value == 0.0 || !std::isfinite(value) || n > kAllPlaces) return value;
+    return n < -kAllPlaces ? 0.0 : RoundToPlaces(value, n);
+}
+
+double RoundIt(double value, char* scratch) {
+    RoundDbl(scratch, value);
+    return Precision(value, kDisplayDigits);
+}
+
+int RoundDbl(char* buffer, double value) {
+    constexpr std::size_t kRoom = 32;
+    const double rounded = Precision(value, kDisplayDigits);
+    const auto result = std::to_chars(buffer, buffer + kRoom - 1, rounded,
+                                      std::chars_format::general, kDisplayDigits);
+    *result.ptr = '\0';
+    return static_cast<int>(result.ptr - buffer);
+}
+
+bool EqualDbl(double a, double b) {
+    constexpr double kTolerance = 1e-12;
+    if (a == b) return true;
+    if (!std::isfinite(a) || !std::isfinite(b)) return false;
+    return std::fabs(a - b) <= kTolerance * std::max(std::fabs(a), std::fabs(b));
+}

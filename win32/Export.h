@@ -1,0 +1,18 @@
+#ifndef WIN32_EXPORT_H
+#define WIN32_EXPORT_H
+
+// Marks what a host may link against. Everything else stays inside the shared library.
+// HYDROFACTS_STATIC: the code is linked statically (tests of the inside).
+// HYDROFACTS_BUILDING: the library itself is being compiled.
+
+#if defined(HYDROFACTS_STATIC)
+#define HYDROFACTS_API
+#elif !defined(_WIN32)
+#define HYDROFACTS_API __attribute__((visibility("default")))
+#elif defined(HYDROFACTS_BUILDING)
+#define HYDROFACTS_API __declspec(dllexport)
+#else
+#define HYDROFACTS_API __declspec(dllimport)
+#endif
+
+#endif

@@ -1,0 +1,50 @@
+#ifndef WIN32_MODULE_H
+#define WIN32_MODULE_H
+
+// Modules and their resources. A module handle is the address of a `win32::Module`, which the
+// shared library keeps for itself (see ModuleEntry.h).
+
+#include <cstddef>
+#include <span>
+#include <string>
+
+#include "win32/Types.h"
+
+namespace win32 {
+
+/// One resource, embedded by the build.
+struct Resource {
+    LPCSTR type;
+    WORD id;
+    WORD language;
+    const unsigned char* data;
+    std::size_t size;
+};
+
+/// What a module handle stands for.
+struct Module {
+    std::string path;
+    std::span<const Resource> resources;
+};
+
+/// The full path of the shared library or program that holds `address`; empty if there is none.
+std::string PathOfModuleAt(const void* address);
+
+inline HINSTANCE ToHandle(Module* module) { return reinterpret_cast<HINSTANCE>(module); }
+
+}  // namespace win32
+
+// NOLINTNEXTLINE(performance-no-int-to-ptr)
+inline LPSTR MAKEINTRESOURCEA(WORD id) { return reinterpret_cast<LPSTR>(UINT_PTR{id}); }
+
+/// Writes the path of the module (null: of the program), cut to `size` bytes with its terminator.
+/// Returns the number of characters written, `size` if the path was cut, 0 on failure.
+DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size);
+
+/// Finds a resource by number (MAKEINTRESOURCEA) and type; null if the module has no such one.
+HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
+HGLOBAL LoadResource(HMODULE module, HRSRC resource);
+LPVOID LockResource(HGLOBAL loaded);
+DWORD SizeofResource(HMODULE module, HRSRC resource);
+
+#endif
