@@ -1,0 +1,172 @@
+#include "tables/FluidDesign.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "tables/VaporDensity.h"
+
+namespace hydrofacts::tables {
+namespace {
+
+// Close to the critical point the liquid correlations bend away, without check data unnoticed.
+constexpr double kLiquidEndChecked = 0.982;     // of the critical temperature
+constexpr double kLiquidEndUnchecked = 0.95;    // of the critical temperature
+constexpr double kHighestTemperature = 2000.0;  // K
+
+const ChosenFormula* Find(const FluidTable& table, Property property) {
+    const auto found = table.formulas.find(property);
+    return found == table.formulas.end() ? nullptr : &found->second;
+}
+
+double LowestCheckTemperature(const FluidData& fluid, Property property) {
+    const auto check = fluid.check.find(property);
+    return check == fluid.check.end() ? 0.0 : check->second.fit.front().temperature;
+}
+
+// A bound of the table, moved inward to a hundredth of a kelvin.
+double RoundUp(double kelvin) { return std::ceil(kelvin * 100.0 - 1e-6) / 100.0; }
+double RoundDown(double kelvin) { return std::floor(kelvin * 100.0 + 1e-6) / 100.0; }
+
+Range WantedLiquidRange(const FluidData& fluid) {
+    const double tc = fluid.constants.criticalTemperature;
+    const bool checked = fluid.check.contains(Property::LiquidDensity);
+    const double lowest = std::max(fluid.constants.meltingTemperature,
+                                   LowestCheckTemperature(fluid, Property::VaporPressure));
+    return {
+        fluid.options.liquidMin.value_or(lowest),
+        fluid.options.liquidMax.value_or(tc * (checked ? kLiquidEndChecked : kLiquidEndUnchecked))};
+}
+
+// The end of what is known of a gas property, published or computed.
+double GasDataEnd(const FluidData& fluid, Property property) {
+    double end = 0.0;
+    if (const auto rows = fluid.handbook.find(property); rows != fluid.handbook.end()) {
+        for (const HandbookRow& row : rows->second) {
+            end = std::max(end, row.maxTemperature);
+        }
+    }
+    if (const auto check = fluid.check.find(property); check != fluid.check.end()) {
+        end = std::max(end, check->second.fit.back().temperature);
+    }
+    return end;
+}
+
+Range WantedVaporRange(const FluidData& fluid, double lowest) {
+    const double dataEnd = std::min({kHighestTemperature, GasDataEnd(fluid, Property::GasViscosity),
+                                     GasDataEnd(fluid, Property::GasHeatCapacity)});
+    return {std::max(lowest, fluid.options.vaporMin.value_or(0.0)),
+            std::min(dataEnd, fluid.options.vaporMax.value_or(kHighestTemperature))};
+}
+
+void Choose(FluidTable& table, const FluidData& fluid, Property property, const Range& wanted) {
+    if (auto choice = ChooseFormula(property, fluid, wanted)) {
+        table.formulas.emplace(property, std::move(*choice));
+    }
+}
+
+// The range in which all of the properties hold; nothing if one is missing.
+std::optional<Range> CommonRange(const FluidTable& table,
+                                 std::initializer_list<Property> properties, Range range) {
+    for (const Property property : properties) {
+        const ChosenFormula* const formula = Find(table, property);
+        if (formula == nullptr) {
+            return std::nullopt;
+        }
+        range.min = std::max(range.min, formula->range.min);
+        range.max = std::min(range.max, formula->range.max);
+    }
+    range = {RoundUp(range.min), RoundDown(range.max)};
+    return range.max > range.min ? std::optional(range) : std::nullopt;
+}
+
+void Drop(FluidTable& table, std::initializer_list<Property> properties) {
+    for (const Property property : properties) {
+        table.formulas.erase(property);
+    }
+}
+
+void DesignLiquid(FluidTable& table, const FluidData& fluid, const Range& wanted) {
+    Choose(table, fluid, Property::LiquidDensity, wanted);
+    Choose(table, fluid, Property::LiquidViscosity, wanted);
+    table.liquid = CommonRange(
+        table, {Property::VaporPressure, Property::LiquidDensity, Property::LiquidViscosity},
+        wanted);
+    if (!table.liquid) {
+        Drop(table, {Property::LiquidDensity, Property::LiquidViscosity});
+    }
+}
+
+void DesignVapor(FluidTable& table, const FluidData& fluid, double lowest) {
+    const Range wanted = WantedVaporRange(fluid, lowest);
+    if (wanted.Span() <= 0.0) {
+        return;
+    }
+    Choose(table, fluid, Property::GasViscosity, wanted);
+    Choose(table, fluid, Property::GasHeatCapacity, wanted);
+    table.vapor = CommonRange(table, {Property::GasViscosity, Property::GasHeatCapacity}, wanted);
+    if (!table.vapor) {
+        Drop(table, {Property::GasViscosity, Property::GasHeatCapacity, Property::DewPressure});
+        return;
+    }
+    table.vaporDensity = ChooseVaporDensity(fluid, *table.vapor);
+}
+
+std::vector<Point> PointsNotFittedTo(const ChosenFormula& formula, const CheckPoints& check) {
+    std::vector<Point> points = check.judge;
+    if (!formula.fitted) {
+        points.insert(points.end(), check.fit.begin(), check.fit.end());
+    }
+    return points;
+}
+
+// The deviations as they are within the ranges that the table ends up with.
+void MeasureAgain(FluidTable& table, const FluidData& fluid) {
+    const double tc = fluid.constants.criticalTemperature;
+    for (auto& [property, formula] : table.formulas) {
+        const auto check = fluid.check.find(property);
+        if (check == fluid.check.end()) {
+            continue;
+        }
+        const std::vector<Point> points = PointsNotFittedTo(formula, check->second);
+        const bool gas =
+            property == Property::GasViscosity || property == Property::GasHeatCapacity;
+        Range range = gas ? *table.vapor : table.liquid.value_or(Range{0.0, tc});
+        if (property == Property::DewPressure) {
+            range = {table.vapor->min, tc};
+        }
+        formula.deviation = Measure(formula.formula, table.constants, points, range);
+        if (property == Property::VaporPressure) {
+            const Range above{std::nextafter(range.max, tc), tc};
+            table.aboveLiquid[property] = Measure(formula.formula, table.constants, points, above);
+        }
+    }
+}
+
+}  // namespace
+
+FluidTable DesignFluid(const FluidData& fluid) {
+    FluidTable table;
+    table.name = fluid.options.name;
+    table.constants = fluid.constants;
+    const Range wantedLiquid = WantedLiquidRange(fluid);
+    const Range saturation{wantedLiquid.min, fluid.constants.criticalTemperature};
+    Choose(table, fluid, Property::VaporPressure, saturation);
+    Choose(table, fluid, Property::DewPressure, saturation);
+    const ChosenFormula* const vaporPressure = Find(table, Property::VaporPressure);
+    if (vaporPressure == nullptr) {
+        throw DesignError(table.name + ": no vapor pressure, neither published nor to fit to");
+    }
+    if (vaporPressure->range.max < 0.98 * fluid.constants.criticalTemperature) {
+        throw DesignError(table.name + ": the vapor pressure ends far below the critical point");
+    }
+    DesignLiquid(table, fluid, wantedLiquid);
+    DesignVapor(table, fluid, table.liquid ? table.liquid->min : vaporPressure->range.min);
+    if (!table.liquid && !table.vapor) {
+        throw DesignError(table.name + ": neither a complete liquid nor a complete vapor");
+    }
+    MeasureAgain(table, fluid);
+    return table;
+}
+
+}  // namespace hydrofacts::tables

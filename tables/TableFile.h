@@ -1,0 +1,17 @@
+#ifndef HYDROFACTS_TABLES_TABLEFILE_H
+#define HYDROFACTS_TABLES_TABLEFILE_H
+
+#include <string>
+
+#include "tables/FluidDesign.h"
+
+namespace hydrofacts::tables {
+
+/// The text of a fluid's table file: head lines, remarks with the source and the measured deviation
+/// of each formula, and the nine records. Line ends are CR LF. Throws DesignError for a line that
+/// is too long for the readers of tables.
+std::string TableText(const FluidTable& table);
+
+}  // namespace hydrofacts::tables
+
+#endif
