@@ -1,0 +1,54 @@
+#ifndef HYDROFACTS_TESTS_SUPPORT_TEMPFOLDER_H
+#define HYDROFACTS_TESTS_SUPPORT_TEMPFOLDER_H
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+/// A folder of a test's own, empty at first and gone at its end.
+class TempFolder {
+  public:
+    TempFolder() {
+        const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
+        std::string name = "hydrofacts-";
+        if (test != nullptr) name.append(test->test_suite_name()).append("-").append(test->name());
+        for (char& c : name) {
+            if (c == '/') c = '-';
+        }
+        path_ = std::filesystem::temp_directory_path() / name;
+        std::filesystem::remove_all(path_);
+        std::filesystem::create_directories(path_);
+    }
+    ~TempFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    std::string Path() const { return path_.string(); }
+    std::string Path(std::string_view name) const { return (path_ / name).string(); }
+
+    /// Writes a file byte for byte and gives its path.
+    std::string Write(std::string_view name, std::string_view content) const {
+        std::ofstream file(path_ / name, std::ios::binary);
+        file.write(content.data(), static_cast<std::streamsize>(content.size()));
+        return Path(name);
+    }
+
+    std::string Read(std::string_view name) const {
+        std::ifstream file(path_ / name, std::ios::binary);
+        std::ostringstream content;
+        content << file.rdbuf();
+        return content.str();
+    }
+
+  private:
+    std::filesystem::path path_;
+};
+
+#endif
