@@ -1,26 +1,28 @@
 #include "tables/Checks.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "hydrofacts/fluid/CFluid.h"
-#include "tables/FluidDesign.h"
 #include "tables/Numbers.h"
 
 namespace hydrofacts::tables {
 namespace {
 
 constexpr int kSteps = 120;
-constexpr double kDensestWater = 277.2;  // K, a little above the densest water
 // The equations of state put the critical point at 0.307 to 0.333; below it a liquid begins.
 constexpr double kSmallestVaporZ = 0.29;
 
 /// A fluid in kelvin and absolute kPa, with its data in reach.
 class LoadedFluid : public CFluid {
   public:
-    LoadedFluid(std::string folder, const std::string& name)
-        : CFluid(HF_KELVIN, HF_KPA, 1, 0.0), m_folder(std::move(folder)), m_fluidName(name) {
+    LoadedFluid(std::string folder, const FluidTable& table)
+        : CFluid(HF_KELVIN, HF_KPA, 1, 0.0),
+          m_folder(std::move(folder)),
+          m_fluidName(table.name),
+          m_densestAt(table.constants.densestAt) {
         // The limits that the fluid dialog passes.
-        if (LoadFluidTable(m_folder.c_str(), name.c_str(), 7.0, 1.0) == 0) {
+        if (LoadFluidTable(m_folder.c_str(), m_fluidName.c_str(), 7.0, 1.0) == 0) {
             Fail("does not load");
         }
     }
@@ -99,7 +101,7 @@ class LoadedFluid : public CFluid {
             const double density = GetDensity();
             const double viscosity = GetViscosity(t);
             Demand(density > 0.0 && viscosity > 0.0, "has no positive liquid properties", t);
-            Demand(density < lastDensity || t < kDensestWater,
+            Demand(density < lastDensity || t < m_densestAt,
                    "has a liquid density that does not fall", t);
             Demand(viscosity < lastViscosity, "has a liquid viscosity that does not fall", t);
             Demand(SetPointIsValid(t, pressure, FLUID_LIQUID) == 1, "has no valid liquid", t);
@@ -151,12 +153,13 @@ class LoadedFluid : public CFluid {
 
     std::string m_folder;
     std::string m_fluidName;
+    double m_densestAt;
 };
 
 }  // namespace
 
-void CheckTable(const std::filesystem::path& folder, const std::string& name) {
-    LoadedFluid(folder.string(), name).Check();
+void CheckTable(const std::filesystem::path& folder, const FluidTable& table) {
+    LoadedFluid(folder.string(), table).Check();
 }
 
 }  // namespace hydrofacts::tables

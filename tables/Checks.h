@@ -2,7 +2,8 @@
 #define HYDROFACTS_TABLES_CHECKS_H
 
 #include <filesystem>
-#include <string>
+
+#include "tables/FluidDesign.h"
 
 namespace hydrofacts::tables {
 
@@ -11,7 +12,7 @@ namespace hydrofacts::tables {
 /// viscosity rises, the ratio of specific heats exceeds 1, the compressibility is a vapor's and
 /// tends to 1 at low pressure, and the state that is found is the one that belongs to the point and
 /// is valid there. Throws DesignError at the first thing that is not so.
-void CheckTable(const std::filesystem::path& folder, const std::string& name);
+void CheckTable(const std::filesystem::path& folder, const FluidTable& table);
 
 }  // namespace hydrofacts::tables
 

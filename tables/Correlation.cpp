@@ -9,7 +9,6 @@ namespace hydrofacts::tables {
 namespace {
 
 constexpr int kHeatCapacitySlot = 6;
-constexpr double kDensestWater = 277.2;  // K, a little above the densest water
 constexpr int kShapeSteps = 400;
 
 CFormula MakeFormula(Property property, int type, const std::array<double, 5>& coefficients) {
@@ -128,7 +127,7 @@ bool HasSoundShape(Property property, const CFormula& formula, const FluidConsta
             if (value <= kGasConstant) {
                 return false;
             }
-        } else if (i > 0 && !(property == Property::LiquidDensity && t < kDensestWater)) {
+        } else if (i > 0 && !(property == Property::LiquidDensity && t < constants.densestAt)) {
             if (Falls(property) ? value >= last : value <= last) {
                 return false;
             }

@@ -24,9 +24,7 @@ double LowestCheckTemperature(const FluidData& fluid, Property property) {
     return check == fluid.check.end() ? 0.0 : check->second.fit.front().temperature;
 }
 
-// A bound of the table, moved inward to a hundredth of a kelvin.
-double RoundUp(double kelvin) { return std::ceil(kelvin * 100.0 - 1e-6) / 100.0; }
-double RoundDown(double kelvin) { return std::floor(kelvin * 100.0 + 1e-6) / 100.0; }
+double ToHundredth(double kelvin) { return std::round(kelvin * 100.0) / 100.0; }
 
 Range WantedLiquidRange(const FluidData& fluid) {
     const double tc = fluid.constants.criticalTemperature;
@@ -76,7 +74,7 @@ std::optional<Range> CommonRange(const FluidTable& table,
         range.min = std::max(range.min, formula->range.min);
         range.max = std::min(range.max, formula->range.max);
     }
-    range = {RoundUp(range.min), RoundDown(range.max)};
+    range = {ToHundredth(range.min), ToHundredth(range.max)};
     return range.max > range.min ? std::optional(range) : std::nullopt;
 }
 

@@ -49,15 +49,21 @@ std::optional<ChosenFormula> FromHandbookRows(Property property, const FluidData
     return best;
 }
 
+// The points within the wanted range, and one more beyond each end, which holds the fit there.
 std::vector<WeightedPoint> CheckPointsToFit(Property property, const FluidData& fluid,
                                             const CheckPoints& check, const Range& wanted) {
-    std::vector<WeightedPoint> points;
     const double liquidMax = fluid.options.liquidMax.value_or(INFINITY);
-    for (const Point& point : check.fit) {
-        const bool outer = IsSaturation(property) && point.temperature > liquidMax;
-        if (wanted.Holds(point.temperature)) {
-            points.push_back({point.temperature, point.value, outer ? kOuterWeight : 1.0});
+    std::vector<WeightedPoint> points;
+    for (std::size_t i = 0; i < check.fit.size(); ++i) {
+        const bool beforeRange =
+            i + 1 < check.fit.size() && check.fit[i + 1].temperature < wanted.min;
+        const bool behindRange = i > 0 && check.fit[i - 1].temperature > wanted.max;
+        if (beforeRange || behindRange) {
+            continue;
         }
+        const Point& point = check.fit[i];
+        const bool outer = IsSaturation(property) && point.temperature > liquidMax;
+        points.push_back({point.temperature, point.value, outer ? kOuterWeight : 1.0});
     }
     return points;
 }
@@ -81,7 +87,10 @@ std::optional<ChosenFormula> FitToCheckData(Property property, const FluidData& 
     }
     ChosenFormula result;
     result.fitted = true;
-    result.range = {points.front().temperature, points.back().temperature};
+    result.range = Overlap({points.front().temperature, points.back().temperature}, wanted);
+    if (result.range.Span() <= 0.0) {
+        return std::nullopt;
+    }
     result.source = "fitted to " + check.source;
     if (IsGas(property) && row && Overlap(row->range, wanted).max > 1.1 * result.range.max) {
         const double end = Overlap(row->range, wanted).max;

@@ -53,6 +53,7 @@ FluidOptions ReadOptions(const CsvRow& row) {
         row.Fail("fit", "must be 'poor' or 'always'");
     }
     options.fitAlways = fit == "always";
+    options.densestAt = row.OptionalNumber("densest_at_K");
     options.liquidMin = row.OptionalNumber("liquid_min_K");
     options.liquidMax = row.OptionalNumber("liquid_max_K");
     options.vaporMin = row.OptionalNumber("vapor_min_K");
@@ -67,7 +68,8 @@ FluidConstants ReadConstants(const CsvRow& row) {
             PositiveNumber(row, "critical_pressure_kPa"),
             row.Number("acentric_factor"),
             PositiveNumber(row, "triple_or_melting_temperature_K"),
-            row.NonEmptyText("source")};
+            row.NonEmptyText("source"),
+            0.0};
 }
 
 HandbookRow ReadHandbookRow(const CsvRow& row) {
@@ -189,6 +191,7 @@ void ReadAllConstants(const std::filesystem::path& folder, FluidsByCas& fluids) 
             row.Fail("cas", "stands twice");
         }
         fluid.constants = ReadConstants(row);
+        fluid.constants.densestAt = fluid.options.densestAt.value_or(0.0);
     });
     for (const auto& [cas, fluid] : fluids) {
         if (!seen.contains(cas)) {

@@ -47,6 +47,7 @@ struct FluidOptions {
     std::string name;
     std::string cas;
     bool fitAlways = false;  ///< Fit to the check data even where the handbook row is good enough.
+    std::optional<double> densestAt;                             ///< K
     std::optional<double> liquidMin, liquidMax;                  ///< K
     std::optional<double> vaporMin, vaporMax, vaporMaxPressure;  ///< K, K, kPa
 };
@@ -58,6 +59,8 @@ struct FluidConstants {
     double acentricFactor;
     double meltingTemperature;  ///< K, or the triple point
     std::string source;
+    double densestAt =
+        0.0;  ///< K; below it the liquid expands when it is cooled. 0: no such thing.
 };
 
 /// Check points of one property: a fit uses the first list and is judged by the second.

@@ -1,5 +1,7 @@
 #include "tables/TableFile.h"
 
+#include <fmt/format.h>
+
 #include "hydrofacts/formula/Constants.h"
 #include "tables/Numbers.h"
 #include "tables/VaporDensity.h"
@@ -12,6 +14,34 @@ constexpr std::size_t kLongestHeadLine = 100;  // shown in a dialog
 constexpr const char* kVersion = "1.0";
 // Every host's limits of levels let the tables pass: 1 for the lowest, 7 for the highest.
 constexpr const char* kLevels = "1\t7";
+
+const char* EquationName(int equation) {
+    switch (equation) {
+        case kPengRobinson:
+            return "Peng-Robinson";
+        case kRedlichKwong:
+            return "Redlich-Kwong";
+        case kSoaveRedlichKwong:
+            return "Soave-Redlich-Kwong";
+        default:
+            return "ideal gas";
+    }
+}
+
+// "* Against 12 points of SOURCE that the fit has not seen".
+std::string Against(const std::string& source, std::size_t count, const char* what, bool fitted) {
+    return fmt::format("* Against {} {}{} of {}{}", count, what, count == 1 ? "" : "s", source,
+                       fitted ? " that the fit has not seen" : "");
+}
+
+std::string Kelvins(const Range& range) {
+    return fmt::format("{} to {} K", RoundedNumber(range.min, 5), RoundedNumber(range.max, 5));
+}
+
+std::string Figures(const Deviation& deviation) {
+    return fmt::format("largest {}% at {} K, mean {}%", RoundedNumber(deviation.largest, 2),
+                       RoundedNumber(deviation.largestAt, 4), RoundedNumber(deviation.mean, 2));
+}
 
 class TableWriter {
   public:
@@ -35,15 +65,16 @@ class TableWriter {
         if (line.size() > longest) {
             throw DesignError(m_table.name + ": a line of the table is too long: " + line);
         }
-        m_text += line + "\r\n";
+        m_text += line;
+        m_text += "\r\n";
     }
 
     void WriteHead() {
         const char* const states = !m_table.vapor    ? "liquid"
                                    : !m_table.liquid ? "vapor"
                                                      : "liquid and vapor";
-        Line("S\t\"" + m_table.name + ", " + states + "\"", kLongestHeadLine);
-        Line(std::string("V\t\"") + kVersion + "\"\tHydrofacts\t" + kLevels, kLongestHeadLine);
+        Line(fmt::format("S\t\"{}, {}\"", m_table.name, states), kLongestHeadLine);
+        Line(fmt::format("V\t\"{}\"\tHydrofacts\t{}", kVersion, kLevels), kLongestHeadLine);
     }
 
     void WriteConstants() {
@@ -54,32 +85,18 @@ class TableWriter {
         // A fluid without vapor formulas needs a pressure in the last field too.
         const double maxPressure =
             m_table.vapor ? m_table.vaporDensity.maxPressure : constants.criticalPressure;
-        Line("* Constants: " + constants.source +
-             ". Molecular weight, critical temperature (K) and pressure (kPa),");
-        Line("* liquid from and to (K), vapor from and to (K), vapor up to (kPa).");
+        Line(fmt::format("* Constants: {}.", constants.source));
+        Line(
+            "* Molecular weight (kg/kmol), critical temperature (K) and pressure (kPa), liquid "
+            "from "
+            "and to (K), vapor from and to (K), vapor up to (kPa).");
         std::string record = "D";
         for (const double value :
              {constants.molecularWeight, constants.criticalTemperature, constants.criticalPressure,
               liquid.min, liquid.max, vapor.min, vapor.max, maxPressure}) {
-            record += "\t" + ExactNumber(value);
+            record += fmt::format("\t{}", ExactNumber(value));
         }
         Line(record);
-    }
-
-    static std::string Against(const std::string& source, std::size_t count, const char* what,
-                               bool fitted) {
-        return "* Against " + std::to_string(count) + " " + what + " of " + source +
-               (fitted ? " that the fit has not seen" : "");
-    }
-
-    static std::string Kelvins(const Range& range) {
-        return RoundedNumber(range.min, 5) + " to " + RoundedNumber(range.max, 5) + " K";
-    }
-
-    static std::string Figures(const Deviation& deviation) {
-        return "largest " + RoundedNumber(deviation.largest, 2) + "% at " +
-               RoundedNumber(deviation.largestAt, 4) + " K, mean " +
-               RoundedNumber(deviation.mean, 2) + "%";
     }
 
     void WriteDeviation(Property property, const ChosenFormula& formula) {
@@ -89,34 +106,33 @@ class TableWriter {
         }
         const Deviation& deviation = formula.deviation;
         if (deviation.count > 0) {
-            Line(Against(formula.checkSource, deviation.count, "points", formula.fitted) + ", " +
-                 Kelvins(deviation.range) + ": " + Figures(deviation) + ".");
+            Line(fmt::format("{}, {}: {}.",
+                             Against(formula.checkSource, deviation.count, "point", formula.fitted),
+                             Kelvins(deviation.range), Figures(deviation)));
         }
         const auto above = m_table.aboveLiquid.find(property);
         if (above != m_table.aboveLiquid.end() && above->second.count > 0) {
-            Line(Against(formula.checkSource, above->second.count, "points", formula.fitted) +
-                 " above the liquid range, " + Kelvins(above->second.range) + ": " +
-                 Figures(above->second) + ".");
+            Line(fmt::format(
+                "{}, above the liquid range, {}: {}.",
+                Against(formula.checkSource, above->second.count, "point", formula.fitted),
+                Kelvins(above->second.range), Figures(above->second)));
         }
-    }
-
-    void WriteRecord(int number, const CFormula& formula) {
-        std::string record = "P" + std::to_string(number) + "\t" + std::to_string(formula.m_type);
-        for (const double coefficient : formula.m_coefficients) {
-            record += "\t" + ExactNumber(coefficient);
-        }
-        Line(record);
     }
 
     void WriteFormula(int number, Property property, const char* title) {
         const auto found = m_table.formulas.find(property);
         if (found == m_table.formulas.end()) {
-            Line("P" + std::to_string(number) + "\t0");
+            Line(fmt::format("P{}\t0", number));
             return;
         }
-        Line(std::string("* ") + title + ": " + found->second.source + ".");
+        Line(fmt::format("* {}: {}.", title, found->second.source));
         WriteDeviation(property, found->second);
-        WriteRecord(number, found->second.formula);
+        const CFormula& formula = found->second.formula;
+        std::string record = fmt::format("P{}\t{}", number, formula.m_type);
+        for (const double coefficient : formula.m_coefficients) {
+            record += fmt::format("\t{}", ExactNumber(coefficient));
+        }
+        Line(record);
     }
 
     void WriteEquationOfState() {
@@ -124,21 +140,21 @@ class TableWriter {
             Line("P5\t0");
             return;
         }
-        constexpr const char* kNames[] = {"", "ideal gas", "Peng-Robinson", "Redlich-Kwong",
-                                          "Soave-Redlich-Kwong"};
         const VaporDensity& vapor = m_table.vaporDensity;
-        Line(std::string("* Vapor density: ") + kNames[vapor.equation] + ", acentric factor: " +
-             m_table.constants.source + (vapor.reason.empty() ? "" : "; " + vapor.reason) + ".");
+        Line(fmt::format("* Vapor density: {}; acentric factor: {}{}{}.",
+                         EquationName(vapor.equation), m_table.constants.source,
+                         vapor.reason.empty() ? "" : "; ", vapor.reason));
         if (vapor.checkSource.empty()) {
             Line("* Not compared: there are no check data.");
         } else {
-            Line(Against(vapor.checkSource, vapor.deviation.count, "states", false) + ", " +
-                 Kelvins(vapor.deviation.range) + ": " + Figures(vapor.deviation) +
-                 " (the largest at " + RoundedNumber(vapor.largestAtPressure, 3) + " kPa).");
+            Line(fmt::format("{}, {}: {} (the largest at {} kPa).",
+                             Against(vapor.checkSource, vapor.deviation.count, "state", false),
+                             Kelvins(vapor.deviation.range), Figures(vapor.deviation),
+                             RoundedNumber(vapor.largestAtPressure, 3)));
         }
         // The loader works out the other coefficients.
-        Line("P5\t" + std::to_string(vapor.equation) + "\t" +
-             ExactNumber(m_table.constants.acentricFactor));
+        Line(fmt::format("P5\t{}\t{}", vapor.equation,
+                         ExactNumber(m_table.constants.acentricFactor)));
     }
 
     const FluidTable& m_table;

@@ -28,7 +28,7 @@ void WriteTable(const std::filesystem::path& folder, const FluidTable& table) {
     const std::filesystem::path file = folder / (table.name + ".FTBL");
     WriteFile(file, TableText(table));
     try {
-        CheckTable(folder, table.name);
+        CheckTable(folder, table);
     } catch (...) {
         std::error_code ignored;
         std::filesystem::remove(file, ignored);
