@@ -20,6 +20,9 @@ endif()
 # differ from one processor to the next.
 add_compile_options(-ffp-contract=off)
 
+# The library calls its own functions directly; nobody is meant to replace them from outside.
+add_compile_options(-fno-semantic-interposition)
+
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast
                     -Wcast-qual -Wundef -Wformat=2)
 if(HYDROFACTS_WERROR)

@@ -44,10 +44,7 @@ std::size_t ReadUpTo(HANDLE file, char* buffer, std::size_t size) {
 FileText::FileText(const char* path) {
     const OpenFile file(path);
     LARGE_INTEGER size{};
-    if (file.get() == INVALID_HANDLE_VALUE || GetFileType(file.get()) != FILE_TYPE_DISK ||
-        GetFileSizeEx(file.get(), &size) == FALSE) {
-        return;
-    }
+    if (file.get() == INVALID_HANDLE_VALUE || GetFileSizeEx(file.get(), &size) == FALSE) return;
     const auto length = static_cast<std::size_t>(size.QuadPart);
     text_ = std::make_unique_for_overwrite<char[]>(length);
     size_ = ReadUpTo(file.get(), text_.get(), length);

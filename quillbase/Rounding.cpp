@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <boost/multiprecision/cpp_int.hpp>
 #include <charconv>
 #include <cmath>
@@ -52,7 +53,7 @@ double ProductError(double a, double b, double product) {
 // Rounds `value` + `tail`, a tail of at most half a unit in the last place of the value.
 double RoundHalfUp(double value, double tail) {
     if (value >= kAllWhole) return tail >= 0.5 ? value + 1.0 : value;
-    const double whole = std::floor(value);
+    const auto whole = static_cast<double>(static_cast<std::int64_t>(value));
     const double fraction = value - whole;
     const bool up = fraction > 0.5 || (fraction == 0.5 && tail >= 0.0);
     return up ? whole + 1.0 : whole;
@@ -145,10 +146,11 @@ bool AtLeastTenTo(double value, int exponent) {
 // The exponent of the first decimal digit of a positive value. Where a value lies within an inverse
 // power's own rounding error either answer rounds to the same decimal.
 int DecimalExponent(double value) {
-    constexpr double kLog10Of2 = 0.30102999566398120;
-    int binary = 0;
-    std::frexp(value, &binary);
-    const int lower = static_cast<int>(std::floor((binary - 1) * kLog10Of2));
+    constexpr int kMantissaBits = 52;
+    constexpr int kBias = 1023;
+    int binary = static_cast<int>(std::bit_cast<std::uint64_t>(value) >> kMantissaBits) - kBias;
+    if (binary == -kBias) binary = std::ilogb(value);  // subnormal
+    const int lower = (binary * 1233) >> 12;  // 1233 / 4096 is log10(2) as closely as needed here
     return AtLeastTenTo(value, lower + 1) ? lower + 1 : lower;
 }
 

@@ -15,4 +15,11 @@
 #define HYDROFACTS_API __declspec(dllimport)
 #endif
 
+// Marks members of an exported class that no host can name, so that the library reaches them directly.
+#ifdef _WIN32
+#define HYDROFACTS_HIDDEN
+#else
+#define HYDROFACTS_HIDDEN __attribute__((visibility("hidden")))
+#endif
+
 #endif

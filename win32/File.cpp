@@ -40,15 +40,9 @@ HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, void*, DWORD disposition, D
     return descriptor < 0 ? INVALID_HANDLE_VALUE : ToHandle(descriptor);
 }
 
-DWORD GetFileType(HANDLE file) {
-    struct stat status {};
-    if (::fstat(ToDescriptor(file), &status) != 0) return FILE_TYPE_UNKNOWN;
-    return S_ISREG(status.st_mode) ? FILE_TYPE_DISK : FILE_TYPE_UNKNOWN;
-}
-
 BOOL GetFileSizeEx(HANDLE file, LARGE_INTEGER* size) {
     struct stat status {};
-    if (::fstat(ToDescriptor(file), &status) != 0) return FALSE;
+    if (::fstat(ToDescriptor(file), &status) != 0 || !S_ISREG(status.st_mode)) return FALSE;
     size->QuadPart = status.st_size;
     return TRUE;
 }

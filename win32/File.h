@@ -15,8 +15,6 @@ inline constexpr DWORD CREATE_NEW = 1;
 inline constexpr DWORD OPEN_EXISTING = 3;
 inline constexpr DWORD FILE_ATTRIBUTE_DIRECTORY = 0x10;
 inline constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
-inline constexpr DWORD FILE_TYPE_UNKNOWN = 0;
-inline constexpr DWORD FILE_TYPE_DISK = 1;
 inline constexpr DWORD MOVEFILE_REPLACE_EXISTING = 1;
 inline constexpr DWORD MOVEFILE_WRITE_THROUGH = 8;
 inline constexpr DWORD INVALID_FILE_ATTRIBUTES = 0xFFFFFFFFU;
@@ -31,9 +29,7 @@ union LARGE_INTEGER {
 HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD share, void* security, DWORD disposition,
                    DWORD attributes, HANDLE model);
 
-/// FILE_TYPE_DISK for a regular file, else FILE_TYPE_UNKNOWN.
-DWORD GetFileType(HANDLE file);
-
+/// The size of a plain file; FALSE for anything else, such as a folder, a pipe or a device.
 BOOL GetFileSizeEx(HANDLE file, LARGE_INTEGER* size);
 
 /// Reads at most `size` bytes; `done` is 0 at the end of the file.

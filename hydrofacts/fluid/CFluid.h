@@ -276,15 +276,15 @@ class HYDROFACTS_API CFluid {
         double tcK;
     };
 
-    void ReleaseUnits();
-    BasePoint ToBase(double temperature, double pressure) const;
-    double Evaluate(int slot, const BasePoint& point) const;
-    double EvaluateAtSetPoint(int slot) const;
-    double SaturationLimit(double tempK) const;
-    bool ReadTable(TextFile& file, double highLimit, double lowLimit);
-    bool ReadConstants(TextFile& file, char* line);
-    bool ReadFormulas(TextFile& file, char* line);
-    bool DropIncompleteSets();
+    HYDROFACTS_HIDDEN void ReleaseUnits();
+    HYDROFACTS_HIDDEN BasePoint ToBase(double temperature, double pressure) const;
+    HYDROFACTS_HIDDEN double Evaluate(int slot, const BasePoint& point) const;
+    HYDROFACTS_HIDDEN double EvaluateAtSetPoint(int slot) const;
+    HYDROFACTS_HIDDEN double SaturationLimit(double tempK) const;
+    HYDROFACTS_HIDDEN bool ReadTable(TextFile& file, double highLimit, double lowLimit);
+    HYDROFACTS_HIDDEN bool ReadConstants(TextFile& file, char* line);
+    HYDROFACTS_HIDDEN bool ReadFormulas(TextFile& file, char* line);
+    HYDROFACTS_HIDDEN bool DropIncompleteSets();
 };
 
 #endif

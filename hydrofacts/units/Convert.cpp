@@ -1,5 +1,7 @@
 // Conversion between two units of a measure, as far as it needs no fluid.
 
+#include <cstddef>
+
 #include "hydrofacts/units/Heads.h"
 #include "hydrofacts/units/Units.h"
 #include "quillbase/Conversion.h"
@@ -11,8 +13,9 @@ double Units::Convert(HF_UNIT_TYPES type, double value, int from, int to,
                       const CFluid* fluid) const {
     if (from == to) return value;
     if (static_cast<unsigned>(type) >= kMeasures) return value;
-    if (from == HF_USER_UNIT) from = GetUserUnit(type);
-    if (to == HF_USER_UNIT) to = GetUserUnit(type);
+    const int userUnit = m_userUnits[static_cast<std::size_t>(type)];
+    if (from == HF_USER_UNIT) from = userUnit;
+    if (to == HF_USER_UNIT) to = userUnit;
     if (from == to) return value;
 
     switch (type) {
@@ -43,7 +46,7 @@ double Units::Convert(HF_UNIT_TYPES type, double value, char* from, char* to) co
     return Convert(type, value, fromId, toId, nullptr);
 }
 
-double Units::ConvertRatio(HF_UNIT_TYPES type, double value, int from, int to) const {
+double Units::ConvertRatio(HF_UNIT_TYPES type, double value, int from, int to) {
     return FindRow(type, from).factor * value / FindRow(type, to).factor;
 }
 

@@ -130,84 +130,35 @@ constinit std::array<Units::t_unit, 2> Units::ThrustPerLength = {{
 
 namespace {
 
-// The rows of the two catalogs whose display order is not the order of ids, by id.
-constexpr std::array<unsigned char, 14> kPressureRow = {0, 3, 5, 1,  2,  6,  7,
-                                                        4, 8, 9, 10, 11, 12, 13};
-constexpr std::array<unsigned char, 26> kFlowRow = {
-    0, 1, 2, 3, 4, 6, 7, 8, 9, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 5, 10, 25};
-
-template <std::size_t count>
-const Units::t_unit& RowById(const std::array<Units::t_unit, count>& rows, int id) {
-    const auto index = static_cast<std::size_t>(id);
-    return rows[index < count ? index : 0];
-}
-
-template <std::size_t count>
-const Units::t_unit& RowById(const std::array<Units::t_unit, count>& rows,
-                             const std::array<unsigned char, count>& rowOfId, int id) {
-    const auto index = static_cast<std::size_t>(id);
-    return rows[index < count ? rowOfId[index] : 0];
-}
+// The rows of the two catalogs whose display order is not the order of ids, by id; in the others a
+// row's id is its place.
+constexpr unsigned char kPressureRow[] = {0, 3, 5, 1, 2, 6, 7, 4, 8, 9, 10, 11, 12, 13};
+constexpr unsigned char kFlowRow[] = {0,  1,  2,  3,  4,  6,  7,  8,  9,  11, 12, 13, 14,
+                                      15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 5,  10, 25};
 
 }  // namespace
 
-Units::t_unit* Units::GetTUnitArray(HF_UNIT_TYPES type, int& count) {
-    const auto give = [&count](auto& rows) {
-        count = static_cast<int>(rows.size());
-        return rows.data();
-    };
-    switch (type) {
-        case HF_TEMPERATURE:
-            return give(Temperature);
-        case HF_PRESSURE:
-        case HF_HEAD:
-        case HF_HEAD_2:
-            return give(Pressure);
-        case HF_FLOW:
-            return give(Flow);
-        case HF_DENSITY:
-            return give(Density);
-        case HF_VISCOSITY:
-            return give(Viscosity);
-        case HF_VELOCITY:
-            return give(Velocity);
-        case HF_POWER:
-            return give(Power);
-        case HF_LENGTH:
-            return give(Length);
-        case HF_AREA:
-            return give(Area);
-        case HF_THRUST_PER_LENGTH:
-            return give(ThrustPerLength);
-    }
-    return nullptr;
-}
+// By measure.
+constexpr Units::Catalog Units::kCatalogs[kMeasures] = {
+    {Temperature.data(), nullptr, Temperature.size()},
+    {Pressure.data(), kPressureRow, Pressure.size()},
+    {Flow.data(), kFlowRow, Flow.size()},
+    {Density.data(), nullptr, Density.size()},
+    {Viscosity.data(), nullptr, Viscosity.size()},
+    {Velocity.data(), nullptr, Velocity.size()},
+    {Power.data(), nullptr, Power.size()},
+    {Length.data(), nullptr, Length.size()},
+    {Pressure.data(), kPressureRow, Pressure.size()},
+    {Area.data(), nullptr, Area.size()},
+    {ThrustPerLength.data(), nullptr, ThrustPerLength.size()},
+    {Pressure.data(), kPressureRow, Pressure.size()},
+};
 
-const Units::t_unit& Units::FindRow(HF_UNIT_TYPES type, int id) {
-    switch (type) {
-        case HF_PRESSURE:
-        case HF_HEAD:
-        case HF_HEAD_2:
-            return RowById(Pressure, kPressureRow, id);
-        case HF_FLOW:
-            return RowById(Flow, kFlowRow, id);
-        case HF_DENSITY:
-            return RowById(Density, id);
-        case HF_VISCOSITY:
-            return RowById(Viscosity, id);
-        case HF_VELOCITY:
-            return RowById(Velocity, id);
-        case HF_POWER:
-            return RowById(Power, id);
-        case HF_LENGTH:
-            return RowById(Length, id);
-        case HF_AREA:
-            return RowById(Area, id);
-        case HF_THRUST_PER_LENGTH:
-            return RowById(ThrustPerLength, id);
-        default:
-            return RowById(Temperature, id);
-    }
+Units::t_unit* Units::GetTUnitArray(HF_UNIT_TYPES type, int& count) {
+    if (static_cast<unsigned>(type) >= kMeasures) return nullptr;
+    const Catalog& catalog = kCatalogs[type];
+    count = static_cast<int>(catalog.count);
+    return catalog.rows;
 }
 
 Units::t_unit Units::GetTUnit(HF_UNIT_TYPES type, int id) { return FindRow(type, id); }

@@ -2,6 +2,7 @@
 #define HYDROFACTS_UNITS_UNITS_H
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "hydrofacts/units/UnitTypes.h"
@@ -116,30 +117,48 @@ class HYDROFACTS_API Units : public CAtmPressure {
     double Convert(HF_UNIT_TYPES type, double value, char* from, char* to) const;
 
   private:
-    static t_unit* GetTUnitArray(HF_UNIT_TYPES type, int& count);
-    static t_unit GetTUnit(HF_UNIT_TYPES type, int id);
-    static const t_unit& FindRow(HF_UNIT_TYPES type, int id);
+    HYDROFACTS_HIDDEN static t_unit* GetTUnitArray(HF_UNIT_TYPES type, int& count);
+    HYDROFACTS_HIDDEN static t_unit GetTUnit(HF_UNIT_TYPES type, int id);
+    HYDROFACTS_HIDDEN static double ConvertRatio(HF_UNIT_TYPES type, double value, int from,
+                                                 int to);
+    HYDROFACTS_HIDDEN double ConvertPressureOrHead(double value, int from, int to,
+                                                   const CFluid* fluid) const;
+    HYDROFACTS_HIDDEN static double CrossHeadAndPressure(double value, int from, int to,
+                                                         const CFluid* fluid);
+    HYDROFACTS_HIDDEN static double ConvertViscosity(double value, int from, int to,
+                                                     const CFluid* fluid);
+    HYDROFACTS_HIDDEN static double Convert_Flow(double value, HF_FLOW_UNITS from, HF_FLOW_UNITS to,
+                                                 const CFluid* fluid);
 
-    double ConvertRatio(HF_UNIT_TYPES type, double value, int from, int to) const;
-    double ConvertPressureOrHead(double value, int from, int to, const CFluid* fluid) const;
-    static double CrossHeadAndPressure(double value, int from, int to, const CFluid* fluid);
-    static double ConvertViscosity(double value, int from, int to, const CFluid* fluid);
-    static double Convert_Flow(double value, HF_FLOW_UNITS from, HF_FLOW_UNITS to,
-                               const CFluid* fluid);
-
-    static std::array<t_unit, 4> Temperature;
-    static std::array<t_unit, 14> Pressure;
-    static std::array<t_unit, 26> Flow;
-    static std::array<t_unit, 4> Density;
-    static std::array<t_unit, 2> Viscosity;
-    static std::array<t_unit, 3> Velocity;
-    static std::array<t_unit, 3> Power;
-    static std::array<t_unit, 9> Length;
-    static std::array<t_unit, 5> Area;
-    static std::array<t_unit, 2> ThrustPerLength;
-    static Units basic_units;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 4> Temperature;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 14> Pressure;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 26> Flow;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 4> Density;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 2> Viscosity;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 3> Velocity;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 3> Power;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 9> Length;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 5> Area;
+    HYDROFACTS_HIDDEN static std::array<t_unit, 2> ThrustPerLength;
+    HYDROFACTS_HIDDEN static Units basic_units;
 
     static constexpr int kMeasures = 12;
+
+    /// A measure's rows, and where the row of an id stands if not at the id's own place.
+    struct Catalog {
+        t_unit* rows;
+        const unsigned char* rowOfId;
+        std::size_t count;
+    };
+    HYDROFACTS_HIDDEN static const Catalog kCatalogs[kMeasures];
+
+    /// The row of an id, or the first row. The measure must be one of the twelve.
+    HYDROFACTS_HIDDEN static const t_unit& FindRow(HF_UNIT_TYPES type, int id) {
+        const Catalog& catalog = kCatalogs[type];
+        const auto index = static_cast<std::size_t>(id);
+        if (index >= catalog.count) return catalog.rows[0];
+        return catalog.rows[catalog.rowOfId == nullptr ? index : catalog.rowOfId[index]];
+    }
 
     bool m_absolute;
     std::array<int, kMeasures> m_userUnits;

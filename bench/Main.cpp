@@ -1,0 +1,67 @@
+// Runs the benchmarks and prints the ratios of pairs: processor time, each side's fastest
+// repetition of this run.
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "bench/Ratios.h"
+
+namespace {
+
+struct Pair {
+    std::string measured;
+    std::string plain;
+    double limit;
+};
+
+std::vector<Pair>& Pairs() {
+    static std::vector<Pair> pairs;
+    return pairs;
+}
+
+class FastestTimes : public benchmark::ConsoleReporter {
+  public:
+    void ReportRuns(const std::vector<Run>& runs) override {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs) {
+            if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
+            const double time = run.cpu_accumulated_time / static_cast<double>(run.iterations);
+            const auto [place, added] = times_.emplace(run.run_name.function_name, time);
+            if (!added) place->second = std::min(place->second, time);
+        }
+    }
+
+    void PrintRatios() const {
+        std::printf("\n%-28s %-28s %8s %8s\n", "measured", "plain", "ratio", "limit");
+        for (const Pair& pair : Pairs()) {
+            const auto measured = times_.find(pair.measured);
+            const auto plain = times_.find(pair.plain);
+            if (measured == times_.end() || plain == times_.end()) continue;
+            std::printf("%-28s %-28s %8.2f %8.2f\n", pair.measured.c_str(), pair.plain.c_str(),
+                        measured->second / plain->second, pair.limit);
+        }
+    }
+
+  private:
+    std::map<std::string, double> times_;
+};
+
+}  // namespace
+
+bench::Ratio::Ratio(std::string measured, std::string plain, double limit) {
+    Pairs().push_back({std::move(measured), std::move(plain), limit});
+}
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    FastestTimes reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    reporter.PrintRatios();
+    return 0;
+}
