@@ -10,7 +10,10 @@
 namespace quillbase {
 namespace {
 
-const char* SkipBlanks(const char* text) { return text + std::strspn(text, " \t\n\v\f\r"); }
+const char* SkipBlanks(const char* text) {
+    while (*text == ' ' || (*text >= '\t' && *text <= '\r')) ++text;
+    return text;
+}
 
 struct Notation {
     std::chars_format format;

@@ -14,19 +14,27 @@ int ReadDoubleField(char* line, double* value) {
 
 namespace hydrofacts {
 
-char* NextField(char* line) {
-    constexpr const char* kDelimiters = "\t\r";
-    thread_local char* rest = nullptr;
-    if (line != nullptr) rest = line;
-    if (rest == nullptr) return nullptr;
+namespace {
 
-    char* field = rest + std::strspn(rest, kDelimiters);
+constexpr bool IsDelimiter(char c) { return c == '\t' || c == '\r'; }
+
+thread_local char* restOfLine = nullptr;
+
+}  // namespace
+
+// Plain loops: fields are a few characters long, and the library functions for sets of characters
+// cost more to start than to run.
+char* NextField(char* line) {
+    char* field = line != nullptr ? line : restOfLine;
+    if (field == nullptr) return nullptr;
+    while (IsDelimiter(*field)) ++field;
     if (*field == '\0') {
-        rest = nullptr;
+        restOfLine = nullptr;
         return nullptr;
     }
-    char* end = field + std::strcspn(field, kDelimiters);
-    rest = *end == '\0' ? nullptr : end + 1;
+    char* end = field;
+    while (*end != '\0' && !IsDelimiter(*end)) ++end;
+    restOfLine = *end == '\0' ? nullptr : end + 1;
     *end = '\0';
     return field;
 }
