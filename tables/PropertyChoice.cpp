@@ -17,6 +17,8 @@ constexpr double kOuterWeight = 0.05;
 // Weight of the points that a gas fit takes from the published row, above the check data.
 constexpr double kHandbookWeight = 0.3;
 constexpr int kHandbookPoints = 24;
+// The triple point of water lies this far above 0 degrees Celsius, with room for rounding. K.
+constexpr double kHair = 0.025;
 
 bool IsGas(Property property) {
     return property == Property::GasViscosity || property == Property::GasHeatCapacity;
@@ -68,6 +70,12 @@ std::vector<WeightedPoint> CheckPointsToFit(Property property, const FluidData& 
     return points;
 }
 
+// What the points cover of the wanted range. It may end a hair beyond the first or last point.
+Range RangeOfFit(const std::vector<WeightedPoint>& points, const Range& wanted) {
+    const Range covered{points.front().temperature - kHair, points.back().temperature + kHair};
+    return Overlap(covered, wanted);
+}
+
 // A fit needs a hold up to the end of its range, where the check data end before it.
 void AddHandbookPoints(std::vector<WeightedPoint>& points, const ChosenFormula& row,
                        const FluidConstants& constants, const Range& range) {
@@ -87,7 +95,7 @@ std::optional<ChosenFormula> FitToCheckData(Property property, const FluidData& 
     }
     ChosenFormula result;
     result.fitted = true;
-    result.range = Overlap({points.front().temperature, points.back().temperature}, wanted);
+    result.range = RangeOfFit(points, wanted);
     if (result.range.Span() <= 0.0) {
         return std::nullopt;
     }

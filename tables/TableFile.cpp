@@ -141,8 +141,7 @@ class TableWriter {
             return;
         }
         const VaporDensity& vapor = m_table.vaporDensity;
-        Line(fmt::format("* Vapor density: {}; acentric factor: {}{}{}.",
-                         EquationName(vapor.equation), m_table.constants.source,
+        Line(fmt::format("* Vapor density: {}{}{}.", EquationName(vapor.equation),
                          vapor.reason.empty() ? "" : "; ", vapor.reason));
         if (vapor.checkSource.empty()) {
             Line("* Not compared: there are no check data.");

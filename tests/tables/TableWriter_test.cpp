@@ -1,0 +1,239 @@
+// The program that writes the tables: what it makes of published rows, how it fits, what it
+// refuses.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <fstream>
+#include <sstream>
+
+#include "tables/Checks.h"
+#include "tables/Csv.h"
+#include "tables/Fit.h"
+#include "tables/TableFile.h"
+#include "tables/VaporDensity.h"
+#include "tests/support/TempFolder.h"
+
+namespace {
+
+using namespace hydrofacts::tables;
+namespace fs = std::filesystem;
+
+const FluidData& Fluid(const std::string& name) {
+    static const std::vector<FluidData> all = ReadReferenceData(HYDROFACTS_FLUID_DATA);
+    for (const FluidData& fluid : all) {
+        if (fluid.options.name == name) {
+            return fluid;
+        }
+    }
+    throw std::runtime_error("no such fluid: " + name);
+}
+
+/// A copy of the data, with one text in one file replaced.
+class SpoiledData : public ::testing::Test {
+  protected:
+    std::string MessageAfter(const std::string& file, const std::string& from,
+                             const std::string& to) {
+        const fs::path folder = m_folder.Path();
+        for (const auto& entry : fs::directory_iterator(HYDROFACTS_FLUID_DATA)) {
+            fs::copy_file(entry.path(), folder / entry.path().filename(),
+                          fs::copy_options::overwrite_existing);
+        }
+        std::ostringstream text;
+        text << std::ifstream(folder / file, std::ios::binary).rdbuf();
+        std::string spoiled = text.str();
+        const std::size_t place = spoiled.find(from);
+        EXPECT_NE(std::string::npos, place) << from;
+        spoiled.replace(place, from.size(), to);
+        std::ofstream(folder / file, std::ios::binary) << spoiled;
+        try {
+            ReadReferenceData(folder);
+        } catch (const InputError& error) {
+            return error.what();
+        }
+        return "";
+    }
+
+    TempFolder m_folder;
+};
+
+TEST_F(SpoiledData, IsRefusedWithFileLineAndField) {
+    struct Row {
+        const char* file;
+        const char* from;
+        const char* to;
+        const char* message;
+    };
+    const Row kRows[] = {
+        {"constants.csv", ",28.96,", ",28,96,", "constants.csv:2: has 11 fields where the heading has 10"},
+        {"constants.csv", ",28.96,", ",28.96x,",
+         "constants.csv:2: field molecular_weight_kg_per_kmol: '28.96x' is not a number"},
+        {"constants.csv", ",28.96,", ",-28.96,",
+         "constants.csv:2: field molecular_weight_kg_per_kmol: must be greater than 0"},
+        {"constants.csv", ",28.96,", ",nan,", "'nan' is not a number"},
+        {"constants.csv", ",28.96,", ",1e999,", "'1e999' is out of range"},
+        {"constants.csv", ",28.96,", ",,", "field molecular_weight_kg_per_kmol: is empty"},
+        {"constants.csv", "Air,", "\"Air,", "constants.csv:2: a quote is not closed"},
+        {"constants.csv", "acentric_factor", "acentric",
+         "constants.csv:2: field acentric_factor: the file has no such column"},
+        {"constants.csv", "7664-41-7", "7664-41-8", "constants.csv: field cas: has no 7664-41-7"},
+        {"fluids.csv", ",always,", ",often,",
+         "fluids.csv:2: field fit: must be 'poor' or 'always'"},
+        {"fluids.csv", "Ammonia,7664-41-7", "Ammonia,132259-10-0",
+         "fluids.csv:3: field cas: stands twice"},
+        {"fluids.csv", "Ammonia", "A/B", "fluids.csv:3: field name: holds a character"},
+        {"fluids.csv", "Ammonia", "A name of more than thirty characters",
+         "fluids.csv:3: field name: is longer than 30"},
+        {"vapor_pressure.csv", ",59.15,132.45,", ",132.45,59.15,",
+         "field t_max_K: must be greater than t_min_K"},
+    };
+    for (const Row& row : kRows) {
+        EXPECT_THAT(MessageAfter(row.file, row.from, row.to), ::testing::HasSubstr(row.message));
+    }
+    EXPECT_EQ("", MessageAfter("fluids.csv", "\n", "\r\n"));
+}
+
+// Toluene at 300 K by hand from its published coefficients.
+TEST(Handbook, RowsBecomeFormulasOfTheTable) {
+    const FluidData& toluene = Fluid("Toluene");
+    const auto value = [&](Property property) {
+        const auto formula =
+            FromHandbook(property, toluene.handbook.at(property).front(), toluene.constants);
+        return formula ? Evaluate(*formula, toluene.constants, 300.0) : 0.0;
+    };
+    // exp(76.945 - 6729.8/300 - 8.179 ln 300 + 5.3017e-6 300^2) = exp(8.33825) Pa
+    EXPECT_NEAR(4.1808, value(Property::VaporPressure), 0.001);
+    // 92.138 * 0.8792 / 0.27136^(1 + (1 - 300/591.75)^0.29241)
+    EXPECT_NEAR(862.2, value(Property::LiquidDensity), 0.05);
+    // 1000 * 8.7268e-7 * 300^0.49397 / (1 + 323.79/300)
+    EXPECT_NEAR(0.0070236, value(Property::GasViscosity), 1e-6);
+    // Ethanol's polynomial for low temperatures: 32585 + 87.4 * 150 + 0.05 * 150^2 J/(kmol K)
+    const HandbookRow polynomial{100, {32585, 87.4, 0.05, 0, 0}, 50, 200, "a book"};
+    const auto formula = FromHandbook(Property::GasHeatCapacity, polynomial, toluene.constants);
+    ASSERT_TRUE(formula);
+    EXPECT_NEAR(46.82, Evaluate(*formula, toluene.constants, 150.0), 1e-9);
+    // The table format has no such form.
+    const HandbookRow water{116, {17.863, 58.606, -95.396, 213.89, -141.26}, 273, 647, "a book"};
+    EXPECT_FALSE(FromHandbook(Property::LiquidDensity, water, toluene.constants));
+}
+
+/// Points of a function of the temperature.
+template <class Function>
+std::vector<WeightedPoint> Sample(double from, double to, double step, Function function) {
+    std::vector<WeightedPoint> points;
+    for (double t = from; t <= to; t += step) {
+        points.push_back({t, function(t), 1.0});
+    }
+    return points;
+}
+
+// Correlations of the literature, sampled, come back between the samples.
+TEST(Fit, FindsTheCorrelationThatThePointsCameFrom) {
+    const FluidConstants constants{100.0, 500.0, 4000.0, 0.3, 200.0, "", 0.0};
+    const auto anything = [](const CFormula&) { return true; };
+    struct Row {
+        Property property;
+        double (*function)(double);
+        double percent;
+    };
+    const Row kRows[] = {
+        // kPa, exponent 2; a tail of ten digits is what rounding leaves.
+        {Property::VaporPressure,
+         [](double t) {
+             return std::exp(59.0 - 5000.0 / t - 6.0 * std::log(t) + 6e-6 * t * t) / 1000.0;
+         },
+         1e-5},
+        {Property::LiquidDensity,
+         [](double t) {
+             return 100.0 * 1.2 / std::pow(0.26, 1.0 + std::pow(1.0 - t / 500.0, 0.3));
+         },
+         1e-5},
+        {Property::LiquidViscosity,
+         [](double t) { return 1000.0 * std::exp(-11.0 + 900.0 / t - 3e-7 * t * t); }, 1e-4},
+        {Property::GasViscosity,
+         [](double t) { return 1000.0 * 3e-7 * std::pow(t, 0.7) / (1.0 + 120.0 / t); }, 1e-5},
+        {Property::GasHeatCapacity,
+         [](double t) {
+             const double u = 1000.0 / t;
+             const double v = 500.0 / t;
+             return 40.0 + 90.0 * std::pow(u / std::sinh(u), 2) +
+                    50.0 * std::pow(v / std::cosh(v), 2);
+         },
+         0.02},
+    };
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(SlotOf(row.property));
+        const auto fit = FitProperty(row.property, constants,
+                                     Sample(200.0, 480.0, 10.0, row.function), anything);
+        ASSERT_TRUE(fit);
+        for (double t = 203.0; t < 480.0; t += 7.0) {
+            const double expected = row.function(t);
+            EXPECT_NEAR(expected, Evaluate(*fit, constants, t), expected * row.percent / 100.0)
+                << t;
+        }
+    }
+}
+
+TEST(Fit, GivesNothingForTooFewPointsOrIfNothingIsAccepted) {
+    const FluidConstants constants{100.0, 500.0, 4000.0, 0.3, 200.0, "", 0.0};
+    const auto line = [](double t) { return t; };
+    EXPECT_FALSE(FitProperty(Property::GasViscosity, constants, Sample(200, 260, 10, line),
+                             [](const CFormula&) { return true; }));
+    EXPECT_FALSE(FitProperty(Property::GasViscosity, constants, Sample(200, 480, 10, line),
+                             [](const CFormula&) { return false; }));
+}
+
+// PR at the critical point: Tc = 190.564 K, Pc = 4599 kPa, acentric factor 0.0115, by hand.
+TEST(VaporDensity, IsTheLibrarysOwnEquation) {
+    const CFormula equation = EquationFormula(2, Fluid("Methane").constants);
+    EXPECT_NEAR(0.0268033, equation.m_coefficients[1], 1e-6);
+    EXPECT_NEAR(249.59, equation.m_coefficients[2], 0.01);
+    EXPECT_NEAR(0.392340, equation.m_coefficients[3], 1e-6);
+}
+
+/// A sound table, spoiled and checked.
+class Checks : public ::testing::Test {
+  protected:
+    std::string MessageFor(const FluidTable& table) {
+        const fs::path folder = m_folder.Path();
+        std::ofstream(folder / (table.name + ".FTBL"), std::ios::binary) << TableText(table);
+        try {
+            CheckTable(folder, table);
+        } catch (const DesignError& error) {
+            return error.what();
+        }
+        return "";
+    }
+
+    TempFolder m_folder;
+};
+
+TEST_F(Checks, RefuseATableThatIsNotSound) {
+    const FluidTable sound = DesignFluid(Fluid("Propane"));
+    ASSERT_EQ("", MessageFor(sound));
+    const auto spoil = [&](auto change) {
+        FluidTable table = sound;
+        change(table);
+        return MessageFor(table);
+    };
+    const auto coefficient = [](FluidTable& table, Property property, int index) -> double& {
+        return table.formulas.at(property).formula.m_coefficients[index];
+    };
+    using ::testing::HasSubstr;
+    EXPECT_THAT(spoil([&](FluidTable& t) { t.formulas.erase(Property::VaporPressure); }),
+                HasSubstr("Propane: the table does not load"));
+    EXPECT_THAT(spoil([&](FluidTable& t) { t.constants.criticalPressure *= 1.2; }),
+                HasSubstr("misses the critical pressure"));
+    EXPECT_THAT(spoil([&](FluidTable& t) { t.liquid->max = 400.0; }), HasSubstr("has no"));
+    EXPECT_THAT(spoil([&](FluidTable& t) { coefficient(t, Property::GasViscosity, 1) = -0.5; }),
+                HasSubstr("gas viscosity that does not rise"));
+    EXPECT_THAT(spoil([&](FluidTable& t) {
+                    t.formulas.at(Property::GasHeatCapacity).formula = CFormula();
+                    t.formulas.at(Property::GasHeatCapacity).formula.m_type = 1;
+                    coefficient(t, Property::GasHeatCapacity, 0) = 8.0;
+                }),
+                HasSubstr("ratio of specific heats of 1 or less"));
+}
+
+}  // namespace
