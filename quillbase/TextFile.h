@@ -16,6 +16,8 @@ class TextFile {
     /// The longest line that the plain form of ReadLine stores, with its terminator.
     static constexpr unsigned kPlainBuffer = 260;
 
+    /// Opens a file. If there is none of that name, one whose extension differs by case alone
+    /// serves.
     explicit TextFile(const char* path);
     ~TextFile();
 
