@@ -27,6 +27,8 @@ constexpr Notation kDecimal     = {std::chars_format::general, "0123456789",    
 constexpr Notation kHexadecimal = {std::chars_format::hex,     "0123456789abcdefABCDEF", "pP", 4};
 // clang-format on
 
+constexpr const char* kHexadecimalStart = ".0123456789abcdefABCDEF";  // not the i of 0xinf
+
 long long ScanExponent(const char* text) {
     if (*text == '+') ++text;
     long long exponent = 0;
@@ -58,7 +60,10 @@ double BeyondDouble(const char* body, const Notation& notation) {
 }
 
 int StoreUnsigned(const char* body, const Notation& notation, double* value) {
-    if (*body == '-') return kNoNumber;
+    const bool hexadecimal = notation.format == std::chars_format::hex;
+    if (*body == '-' || (hexadecimal && std::strspn(body, kHexadecimalStart) == 0)) {
+        return kNoNumber;
+    }
     const char* end = body + std::strlen(body);
     const auto result = std::from_chars(body, end, *value, notation.format);
     if (result.ec == std::errc::invalid_argument) return kNoNumber;

@@ -150,7 +150,7 @@ int DecimalExponent(double value) {
     constexpr int kBias = 1023;
     int binary = static_cast<int>(std::bit_cast<std::uint64_t>(value) >> kMantissaBits) - kBias;
     if (binary == -kBias) binary = std::ilogb(value);  // subnormal
-    const int lower = (binary * 1233) >> 12;  // 1233 / 4096 is log10(2) as closely as needed here
+    const int lower = (binary * 78913) >> 18;  // log10(2), just below: for all exponents of doubles
     return AtLeastTenTo(value, lower + 1) ? lower + 1 : lower;
 }
 

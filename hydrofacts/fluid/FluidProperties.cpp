@@ -32,7 +32,9 @@ double CFluid::GetDensity() const {
             return kgDen(StoredValue(m_formulas[SLOT_LIQUID_DENSITY]));
         case FLUID_USER_VAPOR: {
             const double stored = StoredValue(m_formulas[SLOT_VAPOR_DENSITY]);
-            return stored != 0.0 ? kgDen(stored) : EvaluateAtSetPoint(SLOT_VAPOR_DENSITY);
+            if (stored != 0.0) return kgDen(stored);
+            return m_formulas[SLOT_VAPOR_DENSITY].CalcResult(
+                KTemp(m_temperature), kPaPres(m_pressure, 0), m_molecularWt, 0.0, 0.0);
         }
         default:
             return 0.0;

@@ -117,7 +117,7 @@ double HeatCapacity(const CFormula& formula, double t) {
 
 double RatioOfSpecificHeats(const CFormula& formula, double t) {
     const double cp = HeatCapacity(formula, t);
-    return cp / (cp - kGasConstant);
+    return cp == 0.0 ? 0.0 : cp / (cp - kGasConstant);  // not -0.0
 }
 
 // What the equations of state need beside the acentric factor: covolume, attraction parameter,
