@@ -88,6 +88,12 @@ class LoadedFluid : public CFluid {
         const double atCritical = BubblePressure(m_criticalTemp) / m_criticalPres;
         Demand(std::fabs(atCritical - 1.0) < 0.05,
                "has a saturation pressure that misses the critical pressure", m_criticalTemp);
+        // Above the critical point it still limits the pressure that the compressibility is taken
+        // at.
+        Over(m_criticalTemp, std::max(m_criticalTemp, m_vaporMaxTemp), [&](double t) {
+            Demand(DewPressure(t) > 0.95 * m_criticalPres,
+                   "has a saturation pressure that falls above the critical point", t);
+        });
     }
 
     void CheckLiquid() {
@@ -132,6 +138,9 @@ class LoadedFluid : public CFluid {
     // liquid.
     void CheckVaporStates() {
         Over(m_vaporMinTemp, m_vaporMaxTemp, [&](double t) {
+            if (t == m_criticalTemp) {
+                return;  // There no state is found, whatever the pressure.
+            }
             const bool below = t < m_criticalTemp;
             const double end =
                 below ? std::min(m_vaporMaxPres, 0.999 * DewPressure(t)) : m_vaporMaxPres;

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kHeatCapacitySlot = 6;
 constexpr int kShapeSteps = 400;
+constexpr double kLeastAtCritical = 0.98;  // of the critical pressure
 
 CFormula MakeFormula(Property property, int type, const std::array<double, 5>& coefficients) {
     CFormula formula;
@@ -32,6 +33,17 @@ bool Falls(Property property) {
 
 bool IsSaturation(Property property) {
     return property == Property::VaporPressure || property == Property::DewPressure;
+}
+
+bool StaysUpAboveCritical(const CFormula& formula, const FluidConstants& constants) {
+    const double tc = constants.criticalTemperature;
+    for (int i = 0; i <= kShapeSteps; ++i) {
+        const double t = tc + (kHighestTemperature - tc) * i / kShapeSteps;
+        if (!(Evaluate(formula, constants, t) >= kLeastAtCritical * constants.criticalPressure)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 }  // namespace
@@ -111,30 +123,24 @@ Deviation Measure(const CFormula& formula, const FluidConstants& constants,
 
 bool HasSoundShape(Property property, const CFormula& formula, const FluidConstants& constants,
                    const Range& range) {
-    double last = 0.0;
+    double last = Falls(property) ? INFINITY : 0.0;
     for (int i = 0; i <= kShapeSteps; ++i) {
         const double t = range.min + range.Span() * i / kShapeSteps;
         const double value = Evaluate(formula, constants, t);
+        const bool expands = property == Property::LiquidDensity && t < constants.densestAt;
         if (!(value > 0.0)) {
             return false;
         }
-        const bool aboveCritical = IsSaturation(property) && t > constants.criticalTemperature;
-        if (aboveCritical) {
-            if (value < 0.98 * constants.criticalPressure) {
-                return false;
-            }
-        } else if (property == Property::GasHeatCapacity) {
+        if (property == Property::GasHeatCapacity) {
             if (value <= kGasConstant) {
                 return false;
             }
-        } else if (i > 0 && !(property == Property::LiquidDensity && t < constants.densestAt)) {
-            if (Falls(property) ? value >= last : value <= last) {
-                return false;
-            }
+        } else if (!expands && (Falls(property) ? value >= last : value <= last)) {
+            return false;
         }
         last = value;
     }
-    return true;
+    return !IsSaturation(property) || StaysUpAboveCritical(formula, constants);
 }
 
 }  // namespace hydrofacts::tables

@@ -18,6 +18,9 @@ struct Range {
     double Span() const { return max - min; }
 };
 
+/// No table goes higher, K.
+constexpr double kHighestTemperature = 2000.0;
+
 /// The formula slot of a property: 0 for the vapor pressure to 6 for the heat capacity.
 int SlotOf(Property property);
 

@@ -10,9 +10,8 @@ namespace hydrofacts::tables {
 namespace {
 
 // Close to the critical point the liquid correlations bend away, without check data unnoticed.
-constexpr double kLiquidEndChecked = 0.982;     // of the critical temperature
-constexpr double kLiquidEndUnchecked = 0.95;    // of the critical temperature
-constexpr double kHighestTemperature = 2000.0;  // K
+constexpr double kLiquidEndChecked = 0.982;   // of the critical temperature
+constexpr double kLiquidEndUnchecked = 0.95;  // of the critical temperature
 
 const ChosenFormula* Find(const FluidTable& table, Property property) {
     const auto found = table.formulas.find(property);

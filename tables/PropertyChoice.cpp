@@ -70,9 +70,9 @@ std::vector<WeightedPoint> CheckPointsToFit(Property property, const FluidData& 
     return points;
 }
 
-// What the points cover of the wanted range. It may end a hair beyond the first or last point.
+// What the points cover of the wanted range. It may begin a hair before the first of them.
 Range RangeOfFit(const std::vector<WeightedPoint>& points, const Range& wanted) {
-    const Range covered{points.front().temperature - kHair, points.back().temperature + kHair};
+    const Range covered{points.front().temperature - kHair, points.back().temperature};
     return Overlap(covered, wanted);
 }
 
@@ -107,15 +107,13 @@ std::optional<ChosenFormula> FitToCheckData(Property property, const FluidData& 
             " and above " + RoundedNumber(result.range.max, 5) + " K to " + row->source;
         result.range.max = end;
     }
-    Range shapeRange = result.range;
     if (IsSaturation(property)) {
         points.push_back(
             {fluid.constants.criticalTemperature, fluid.constants.criticalPressure, kOuterWeight});
         result.range.max = fluid.constants.criticalTemperature;
-        shapeRange.max = 2.0 * fluid.constants.criticalTemperature;
     }
     const auto fit = FitProperty(property, fluid.constants, points, [&](const CFormula& formula) {
-        return HasSoundShape(property, formula, fluid.constants, shapeRange);
+        return HasSoundShape(property, formula, fluid.constants, result.range);
     });
     if (!fit) {
         return std::nullopt;
@@ -156,7 +154,9 @@ std::optional<ChosenFormula> ChooseFormula(Property property, const FluidData& f
     bool rowIsGood = false;
     if (row) {
         Judge(*row, fluid, check->second, wanted);
-        rowIsGood = row->deviation.largest <= LargestAccepted(property);
+        rowIsGood =
+            row->deviation.largest <= LargestAccepted(property) &&
+            HasSoundShape(property, row->formula, fluid.constants, Overlap(row->range, wanted));
         if (rowIsGood && !LeavesGap(row->range, wanted) && !fluid.options.fitAlways) {
             return row;
         }
@@ -169,9 +169,10 @@ std::optional<ChosenFormula> ChooseFormula(Property property, const FluidData& f
     if (!row) {
         return fit;
     }
-    // A sound row that leaves a part of the range out gives way to any fit that is sound too.
+    // A row that is not sound, or leaves a part of the range out, gives way to any fit that is
+    // sound.
     const bool fitIsGood = fit->deviation.largest <= LargestAccepted(property);
-    const bool widens = rowIsGood && fitIsGood && LeavesGap(row->range, wanted);
+    const bool widens = fitIsGood && (!rowIsGood || LeavesGap(row->range, wanted));
     return widens || fit->deviation.largest < row->deviation.largest ? fit : row;
 }
 

@@ -67,7 +67,7 @@ FluidConstants ReadConstants(const CsvRow& row) {
             PositiveNumber(row, "critical_temperature_K"),
             PositiveNumber(row, "critical_pressure_kPa"),
             row.Number("acentric_factor"),
-            PositiveNumber(row, "triple_or_melting_temperature_K"),
+            row.OptionalNumber("triple_or_melting_temperature_K").value_or(0.0),
             row.NonEmptyText("source"),
             0.0};
 }

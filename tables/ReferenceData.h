@@ -57,7 +57,7 @@ struct FluidConstants {
     double criticalTemperature;  ///< K
     double criticalPressure;     ///< kPa
     double acentricFactor;
-    double meltingTemperature;  ///< K, or the triple point
+    double meltingTemperature;  ///< K, or the triple point. 0: not known
     std::string source;
     double densestAt =
         0.0;  ///< K; below it the liquid expands when it is cooled. 0: no such thing.
