@@ -3,28 +3,10 @@
 #include <algorithm>
 #include <limits>
 
-#include "win32/Win32.h"
+#include "quillbase/OpenFile.h"
 
 namespace quillbase {
 namespace {
-
-class OpenFile {
-  public:
-    explicit OpenFile(const char* path)
-        : handle_(CreateFileA(path, GENERIC_READ,
-                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                              OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)) {}
-    ~OpenFile() {
-        if (handle_ != INVALID_HANDLE_VALUE) CloseHandle(handle_);
-    }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
-    HANDLE get() const { return handle_; }
-
-  private:
-    HANDLE handle_;
-};
 
 // What was read; less than `size` if the file has shrunk meanwhile or the disk fails.
 std::size_t ReadUpTo(HANDLE file, char* buffer, std::size_t size) {
@@ -44,7 +26,7 @@ std::size_t ReadUpTo(HANDLE file, char* buffer, std::size_t size) {
 FileText::FileText(const char* path) {
     const OpenFile file(path);
     LARGE_INTEGER size{};
-    if (file.get() == INVALID_HANDLE_VALUE || GetFileSizeEx(file.get(), &size) == FALSE) return;
+    if (!file.IsOpen() || GetFileSizeEx(file.get(), &size) == FALSE) return;
     const auto length = static_cast<std::size_t>(size.QuadPart);
     text_ = std::make_unique_for_overwrite<char[]>(length);
     size_ = ReadUpTo(file.get(), text_.get(), length);

@@ -1,11 +1,11 @@
 #include "quillbase/IniFile.h"
 
 #include <cstddef>
-#include <filesystem>
-#include <system_error>
+#include <string>
 #include <utility>
 
 #include "quillbase/FileText.h"
+#include "quillbase/OpenFile.h"
 #include "quillbase/Text.h"
 #include "win32/Win32.h"
 
@@ -72,10 +72,16 @@ Place Find(std::string_view text, std::string_view section, std::string_view key
     return place;
 }
 
-bool WriteWhole(const std::string& path, std::string_view text) {
-    const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
+// Where a file lies once all links to it are followed; empty if the system doesn't tell.
+std::string RealPath(HANDLE file) {
+    constexpr DWORD kLongestPath = 4096;
+    std::string path(kLongestPath, '\0');
+    const DWORD length = GetFinalPathNameByHandleA(file, path.data(), kLongestPath, 0);
+    path.resize(length < kLongestPath ? length : 0);
+    return path;
+}
+
+bool WriteAndClose(HANDLE file, std::string_view text) {
     DWORD done = 0;
     const auto size = static_cast<DWORD>(text.size());
     bool good = WriteFile(file, text.data(), size, &done, nullptr) != FALSE && done == size;
@@ -83,13 +89,16 @@ bool WriteWhole(const std::string& path, std::string_view text) {
     return CloseHandle(file) != FALSE && good;
 }
 
-// A name that no other writer has: the first free one beside the file.
-std::string WriteBeside(const std::string& path, std::string_view text) {
+// Writes a new file beside `path`, under the first name that nobody has, with the attributes of
+// `model`. Gives its path, empty if it couldn't be written.
+std::string WriteBeside(const std::string& path, std::string_view text, HANDLE model) {
     constexpr int kTries = 100;
     for (int number = 0; number < kTries; ++number) {
         std::string candidate = path + ".new" + std::to_string(number);
-        if (GetFileAttributesA(candidate.c_str()) != INVALID_FILE_ATTRIBUTES) continue;
-        if (WriteWhole(candidate, text)) return candidate;
+        const HANDLE file = CreateFileA(candidate.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                        FILE_ATTRIBUTE_NORMAL, model);
+        if (file == INVALID_HANDLE_VALUE) continue;
+        if (WriteAndClose(file, text)) return candidate;
         DeleteFileA(candidate.c_str());
         return {};
     }
@@ -127,17 +136,16 @@ void IniFile::SetValue(std::string_view section, std::string_view key, std::stri
 
 bool IniFile::Save() const {
     if (!readable_) return false;
-    // A link stays a link: what it leads to is replaced.
-    std::error_code error;
-    const std::filesystem::path real = std::filesystem::weakly_canonical(path_, error);
-    const std::string target = error ? path_ : real.string();
-
-    const std::string written = WriteBeside(target, text_);
-    if (written.empty()) return false;
-    const auto status = std::filesystem::status(target, error);
-    if (std::filesystem::exists(status)) {
-        std::filesystem::permissions(written, status.permissions(), error);
+    std::string target = path_;
+    std::string written;
+    {
+        // A link stays a link: what it leads to is replaced.
+        const OpenFile old(path_.c_str());
+        if (old.IsOpen()) target = RealPath(old.get());
+        if (target.empty()) return false;
+        written = WriteBeside(target, text_, old.IsOpen() ? old.get() : nullptr);
     }
+    if (written.empty()) return false;
     if (MoveFileExA(written.c_str(), target.c_str(),
                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE) {
         return true;

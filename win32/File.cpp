@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <string>
 
 namespace {
 
@@ -26,8 +27,10 @@ auto Retry(Call call) {
 
 }  // namespace
 
-HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, void*, DWORD disposition, DWORD, HANDLE) {
+HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, void*, DWORD disposition, DWORD,
+                   HANDLE model) {
     constexpr mode_t kReadWriteForAll = 0666;
+    constexpr mode_t kAllPermissions = 07777;
     int flags = O_CLOEXEC | O_NONBLOCK;
     if (access == GENERIC_READ && disposition == OPEN_EXISTING) {
         flags |= O_RDONLY;
@@ -37,7 +40,22 @@ HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, void*, DWORD disposition, D
         return INVALID_HANDLE_VALUE;
     }
     const int descriptor = Retry([&] { return ::open(path, flags, kReadWriteForAll); });
-    return descriptor < 0 ? INVALID_HANDLE_VALUE : ToHandle(descriptor);
+    if (descriptor < 0) return INVALID_HANDLE_VALUE;
+    struct stat status {};
+    if (model != nullptr && ::fstat(ToDescriptor(model), &status) == 0) {
+        // Where the permissions can't be given the file is good all the same.
+        static_cast<void>(::fchmod(descriptor, status.st_mode & kAllPermissions));
+    }
+    return ToHandle(descriptor);
+}
+
+DWORD GetFinalPathNameByHandleA(HANDLE file, LPSTR buffer, DWORD size, DWORD) {
+    const std::string link = "/proc/self/fd/" + std::to_string(ToDescriptor(file));
+    const ssize_t length = ::readlink(link.c_str(), buffer, size);
+    if (length < 0) return 0;
+    if (static_cast<DWORD>(length) >= size) return size;
+    buffer[length] = '\0';
+    return static_cast<DWORD>(length);
 }
 
 BOOL GetFileSizeEx(HANDLE file, LARGE_INTEGER* size) {

@@ -24,13 +24,17 @@ union LARGE_INTEGER {
 };
 
 /// Opens an existing file to read (GENERIC_READ, OPEN_EXISTING) or makes a new one to write
-/// (GENERIC_WRITE, CREATE_NEW). INVALID_HANDLE_VALUE on failure. Never waits for the other end of a
-/// pipe.
+/// (GENERIC_WRITE, CREATE_NEW), with the permissions of the open file `model` unless that is null.
+/// INVALID_HANDLE_VALUE on failure. Never waits for the other end of a pipe.
 HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD share, void* security, DWORD disposition,
                    DWORD attributes, HANDLE model);
 
 /// The size of a plain file; FALSE for anything else, such as a folder, a pipe or a device.
 BOOL GetFileSizeEx(HANDLE file, LARGE_INTEGER* size);
+
+/// Writes the path of an open file with all links followed; `flags` is not used. Returns its
+/// length, `size` or more if it doesn't fit, 0 on failure.
+DWORD GetFinalPathNameByHandleA(HANDLE file, LPSTR buffer, DWORD size, DWORD flags);
 
 /// Reads at most `size` bytes; `done` is 0 at the end of the file.
 BOOL ReadFile(HANDLE file, void* buffer, DWORD size, DWORD* done, void* overlapped);

@@ -64,13 +64,15 @@ struct Search {
 };
 
 bool NameMatches(std::string_view pattern, std::string_view name) {
-    const NameParts wanted = Split(pattern);
+    const NameParts wanted = Split(pattern == "*.*" ? "*" : pattern);
+    if (wanted.extension.empty()) return Matches(wanted.base, name, SameCharacter);
     const NameParts have = Split(name);
     return Matches(wanted.base, have.base, SameCharacter) &&
            Matches(wanted.extension, have.extension, SameLetter);
 }
 
 bool Next(Search& search, WIN32_FIND_DATAA* found) {
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): each search has a stream of its own
     while (const dirent* entry = ::readdir(search.directory.get())) {
         const std::size_t length = std::strlen(entry->d_name);
         if (length >= sizeof found->cFileName) continue;
