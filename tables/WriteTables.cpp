@@ -43,17 +43,14 @@ void WriteAll(const std::filesystem::path& fluids, const std::filesystem::path& 
     }
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Run(int argc, char** argv) {
     CLI::App app(
         "Writes a table file (*.FTBL) for each fluid of a folder of CSV files, and checks each "
-        "with "
-        "the library that reads them.");
+        "with the library that reads them.");
     app.footer(
         "Example:\n  hydrofacts_table_writer --fluids tables/fluids -o build/tables\n\n"
-        "The first fluid that cannot be made into a sound table ends the run with exit status "
-        "1\nand a message that names the file, line and field, or the fluid and the reason.");
+        "The first fluid that cannot be made into a sound table ends the run with exit status 1\n"
+        "and a message that names the file, line and field, or the fluid and the reason.");
     std::string fluids;
     std::string output;
     app.add_option("--fluids", fluids, "Folder with fluids.csv and the data that it draws on")
@@ -61,11 +58,17 @@ int main(int argc, char** argv) {
     app.add_option("-o,--output", output, "Folder to write the tables into; made if missing")
         ->required();
     CLI11_PARSE(app, argc, argv);
+    WriteAll(fluids, output);
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
     try {
-        WriteAll(fluids, output);
+        return Run(argc, argv);
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 1;
     }
-    return 0;
 }

@@ -155,6 +155,7 @@ bool HasNumber(const char* field, std::int32_t wanted) {
 CFormula::CFormula() : m_slot(0), m_type(0), m_coefficients{} {}
 
 void CFormula::operator=(const CFormula& other) {
+    if (this == &other) return;
     m_slot = other.m_slot;
     m_type = other.m_type;
     std::copy(std::begin(other.m_coefficients), std::end(other.m_coefficients), m_coefficients);

@@ -48,6 +48,7 @@ std::optional<int> CustomUnitId(HF_UNIT_TYPES type) {
 
 Units::Units(HF_UNITS system) : m_absolute(true), m_userUnits{} { SetSystem(system, true); }
 
+// NOLINTNEXTLINE(bugprone-copy-constructor-init): the copy has the standard atmosphere
 Units::Units(const Units& other)
     : CAtmPressure(), m_absolute(other.m_absolute), m_userUnits(other.m_userUnits) {
     SetSystem(other.m_system, false);
