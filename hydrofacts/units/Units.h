@@ -100,8 +100,9 @@ class HYDROFACTS_API Units : public CAtmPressure {
     void AddItemToComboList(HWND dialog, unsigned control, HF_UNIT_TYPES type, int id);
 
     /// Converts a value; `from` and `to` are ids of the measure or HF_USER_UNIT. An id of no unit
-    /// is taken as the catalog's first row, a measure that doesn't exist gives the value back. The
-    /// absolute flag and the atmosphere play no part: a gauge pressure stays gauge.
+    /// is taken as the catalog's first row (a flow of no unit is 0.0), a measure that doesn't exist
+    /// gives the value back. The absolute flag and the atmosphere play no part: a gauge pressure
+    /// stays gauge.
     ///
     /// `fluid` may be null where no density is needed. Without a fluid a head and a pressure
     /// convert to 0.0, cSt to 0.0, cP to infinity, a mass flow to infinity and a volume flow to a
