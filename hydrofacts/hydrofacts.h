@@ -6,9 +6,12 @@
 #include "hydrofacts/fluid/CFluid.h"
 #include "hydrofacts/formula/CFormula.h"
 #include "hydrofacts/frame/Language.h"
+#include "hydrofacts/pipe/CPipeTable.h"
+#include "hydrofacts/pipe/CPipeTableList.h"
 #include "hydrofacts/units/Atmospheric_Pressure_Equations.h"
 #include "hydrofacts/units/UnitValue.h"
 #include "hydrofacts/units/Units.h"
+#include "hydrofacts/valve/CValveTable.h"
 #include "quillbase/Directory.h"
 
 #endif

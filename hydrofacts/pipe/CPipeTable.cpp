@@ -1,0 +1,202 @@
+// A pipe material and its schedule as an object: its life, its loading.
+
+#include "hydrofacts/pipe/CPipeTable.h"
+
+#include <cstring>
+#include <iterator>
+#include <memory>
+
+#include "hydrofacts/frame/NodeList.h"
+#include "hydrofacts/frame/RecordKey.h"
+#include "hydrofacts/frame/TableSearch.h"
+#include "hydrofacts/pipe/PipeRecord.h"
+#include "hydrofacts/pipe/SizeCombo.h"
+#include "quillbase/Directory.h"
+#include "quillbase/Numbers.h"
+#include "quillbase/Text.h"
+#include "quillbase/TextFile.h"
+
+using hydrofacts::kPipeLineSize;
+using hydrofacts::NextField;
+
+namespace {
+
+hydrofacts::TablePath PathOf(const char* directory, const char* material) {
+    char installed[MAX_PATH];
+    if (directory == nullptr) {
+        GetDirectory(DIR_TABLES, installed, 0);
+        directory = installed;
+    }
+    return {directory, material, hydrofacts::kPipeExtension};
+}
+
+bool FindSchedule(TextFile& file, char* line, const char* schedule) {
+    for (file.ReadLine(line, kPipeLineSize); !file.eof(); file.ReadLine(line, kPipeLineSize)) {
+        const char* found = hydrofacts::ScheduleOf(line);
+        if (found != nullptr && std::strcmp(found, schedule) == 0) return true;
+    }
+    return false;
+}
+
+struct SizeRow {
+    char* sizeText;
+    double nominal = 0.0;
+    double insideDia = 0.0;
+    double secondDim = 0.0;
+
+    bool IsComplete() const { return nominal != 0.0 && insideDia != 0.0 && secondDim != 0.0; }
+};
+
+// Reads the rest of a row that is cut up to its schedule: nominal size US, metric; diameter and
+// second dimension US; the same metric.
+SizeRow ReadRow(HF_UNITS units) {
+    char* fields[6];
+    for (char*& field : fields) field = NextField(nullptr);
+    const bool metric = units == HF_METRIC;
+    SizeRow row{.sizeText = fields[metric ? 1 : 0]};
+    const auto read = [](const char* field, double* value) {
+        if (field != nullptr) quillbase::ScanReal(field, value);
+    };
+    read(row.sizeText, &row.nominal);
+    read(fields[metric ? 4 : 2], &row.insideDia);
+    read(fields[metric ? 5 : 3], &row.secondDim);
+    return row;
+}
+
+}  // namespace
+
+CPipeTable::CPipeTable(HF_UNITS system)
+    : path{},
+      material{},
+      schedule{},
+      abs_roughness(0.0),
+      hwc(0.0),
+      units(system),
+      pipe_list(nullptr) {}
+
+CPipeTable::CPipeTable(const CPipeTable& other) : CPipeTable(other.units) { *this = other; }
+
+CPipeTable& CPipeTable::operator=(const CPipeTable& other) {
+    if (this == &other) return *this;
+    ClearPipeList();
+    std::copy(std::begin(other.path), std::end(other.path), path);
+    std::copy(std::begin(other.material), std::end(other.material), material);
+    std::copy(std::begin(other.schedule), std::end(other.schedule), schedule);
+    abs_roughness = other.abs_roughness;
+    hwc = other.hwc;
+    units = other.units;
+    hydrofacts::AppendCopies(pipe_list, other.pipe_list);
+    return *this;
+}
+
+CPipeTable::~CPipeTable() { ClearPipeList(); }
+
+void CPipeTable::ClearPipeList() { hydrofacts::ReleaseNodes(pipe_list); }
+
+// The arguments may be texts of this object, so the path is made before any of them changes.
+bool CPipeTable::LoadMaterial(const char* directory, const char* materialName) {
+    const hydrofacts::TablePath tablePath = PathOf(directory, materialName);
+    rstrncpy(material, materialName, sizeof material);
+    *schedule = '\0';
+    ClearPipeList();
+    rstrncpy(path, tablePath.c_str(), sizeof path);
+    return ReadMaterialRecord();
+}
+
+bool CPipeTable::LoadPipeList(const char* scheduleName, HWND combo) {
+    const bool nameFits = std::strlen(scheduleName) < sizeof schedule;
+    rstrncpy(schedule, scheduleName, sizeof schedule);
+    ClearPipeList();
+    const hydrofacts::SizeCombo sizes(combo);
+    sizes.Clear();
+
+    TextFile file(path);
+    char line[kPipeLineSize];
+    return file.ValidFile() && nameFits && FindSchedule(file, line, schedule) &&
+           ReadSizes(file, line, sizes);
+}
+
+void CPipeTable::SetPipeUnit(HF_UNITS system, HWND dialog) {
+    if (system != units) {
+        units = system;
+        abs_roughness = 0.0;
+        ReadMaterialRecord();
+    }
+    LoadPipeList(schedule, hydrofacts::SizeCombo::In(dialog));
+}
+
+void CPipeTable::ReadPipeRecords(TextFile* file, char* line, int size) {
+    while (!file->eof()) {
+        file->ReadLine(line, static_cast<unsigned>(size));
+        const char key = hydrofacts::RecordKey(line);
+        if (file->eof() || key == 'R' || key == 'Z') break;
+    }
+}
+
+bool CPipeTable::IsValid() const { return pipe_list != nullptr; }
+
+char* CPipeTable::GetMaterialName() { return material; }
+
+const char* CPipeTable::GetMaterialName() const { return material; }
+
+char* CPipeTable::GetScheduleName() { return schedule; }
+
+const char* CPipeTable::GetScheduleName() const { return schedule; }
+
+double CPipeTable::GetHWC() const { return hwc; }
+
+double CPipeTable::GetAbsRoughness() const { return abs_roughness; }
+
+UnitValue<HF_LENGTH, 0> CPipeTable::GetAbsRoughnessValue() const {
+    return {LengthUnit(), abs_roughness};
+}
+
+bool CPipeTable::IsListed(TextFile& file, double highLimit, double lowLimit) const {
+    const bool within = hydrofacts::FileLevelsAreWithin(file, highLimit, lowLimit);
+    char line[kPipeLineSize] = "";
+    ReadPipeRecords(&file, line, sizeof line);
+    NextField(line);
+    if (units == HF_METRIC) NextField(nullptr);
+    double roughness = 0.0;
+    return !file.eof() && within && ReadDoubleField(nullptr, &roughness) != 0 && roughness != 0.0;
+}
+
+HF_LENGTH_UNITS CPipeTable::LengthUnit() const {
+    return units == HF_METRIC ? HF_LEN_MM : HF_LEN_IN;
+}
+
+bool CPipeTable::ReadMaterialRecord() {
+    TextFile file(path);
+    if (!file.ValidFile()) return false;
+    char line[kPipeLineSize] = "";
+    while (!file.eof() && *line != 'R') ReadPipeRecords(&file, line, sizeof line);
+    if (*line != 'R') return false;
+
+    NextField(line);
+    if (units == HF_METRIC) NextField(nullptr);
+    ReadDoubleField(nullptr, &abs_roughness);
+    if (units != HF_METRIC) NextField(nullptr);
+    hwc = 0.0;
+    ReadDoubleField(nullptr, &hwc);
+    return true;
+}
+
+// `line` is the schedule's first row, cut up to the schedule.
+bool CPipeTable::ReadSizes(TextFile& file, char* line, const hydrofacts::SizeCombo& combo) {
+    hydrofacts::ListEnd<t_pipe_size> end(pipe_list);
+    for (;;) {
+        const SizeRow row = ReadRow(units);
+        if (!row.IsComplete()) return false;
+        combo.Add(row.sizeText);
+        t_pipe_size& size = end.Append(std::make_unique<t_pipe_size>());
+        size.nominal = row.nominal;
+        size.inside_dia = row.insideDia;
+        size.second_dim = row.secondDim;
+
+        file.ReadLine(line, kPipeLineSize);
+        if (file.eof() || *line != 'Z') return true;
+        const char* next = hydrofacts::ScheduleOf(line);
+        if (next == nullptr) return false;
+        if (std::strcmp(next, schedule) != 0) return true;
+    }
+}
