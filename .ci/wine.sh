@@ -1,0 +1,20 @@
+# To be sourced: a Wine of the build's own, without a display. One server stays up while the tests run,
+# since starting it takes longer than most test programs; it goes when the script does.
+export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+unset DISPLAY
+
+stop_wine() {
+    wineserver -k || true
+    trap - EXIT
+}
+
+if [[ ! -e $WINEPREFIX/ready ]]; then
+    rm -rf "$WINEPREFIX"
+    mkdir -p "$WINEPREFIX"
+    quietly wine-boot wine wineboot -i
+    quietly wine-graphics wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /t REG_SZ /d null /f
+    wineserver -w
+    touch "$WINEPREFIX/ready"
+fi
+trap stop_wine EXIT
+wineserver -p
