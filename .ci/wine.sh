@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # To be sourced: a Wine of the build's own, without a display. One server stays up while the tests run,
 # since starting it takes longer than most test programs; it goes when the script does.
 export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # To be sourced. quietly LOG COMMAND... runs a command with its output in build/logs/LOG.log and
 # shows that output only if the command fails.
 quietly() {
