@@ -44,8 +44,12 @@ FluidOptions ReadOptions(const CsvRow& row) {
     if (options.name.size() > 30) {
         row.Fail("name", "is longer than 30 characters");
     }
-    if (options.name.find_first_of("/\\:*?\"<>|") != std::string::npos) {
-        row.Fail("name", "holds a character that a file name cannot");
+    // The tables are Windows-1252, the data UTF-8, and file systems disagree about the rest.
+    const bool plain = std::all_of(options.name.begin(), options.name.end(), [](char c) {
+        return c >= ' ' && c <= '~' && std::string_view("/\\:*?\"<>|").find(c) == std::string::npos;
+    });
+    if (!plain) {
+        row.Fail("name", "holds a character that not every file name can");
     }
     options.cas = row.NonEmptyText("cas");
     const std::string& fit = row.Text("fit");
@@ -72,9 +76,19 @@ FluidConstants ReadConstants(const CsvRow& row) {
             0.0};
 }
 
+int ReadForm(const CsvRow& row) {
+    const double number = row.Number("equation_form");
+    for (const int form : {100, 101, 102, 105, 107, 116}) {
+        if (number == form) {
+            return form;
+        }
+    }
+    row.Fail("equation_form", "'" + row.Text("equation_form") + "' is no form that is known");
+}
+
 HandbookRow ReadHandbookRow(const CsvRow& row) {
     HandbookRow result;
-    result.form = static_cast<int>(row.Number("equation_form"));
+    result.form = ReadForm(row);
     result.coefficients = {row.Number("A"), row.Number("B"), row.Number("C"), row.Number("D"),
                            row.Number("E")};
     result.minTemperature = PositiveNumber(row, "t_min_K");

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "hydrofacts/formula/Constants.h"
 #include "tables/Numbers.h"
 #include "tables/VaporDensity.h"
@@ -14,6 +16,8 @@ constexpr std::size_t kLongestHeadLine = 100;  // shown in a dialog
 constexpr const char* kVersion = "1.0";
 // Every host's limits of levels let the tables pass: 1 for the lowest, 7 for the highest.
 constexpr const char* kLevels = "1\t7";
+
+bool IsPlain(char c) { return c >= ' ' && c <= '~'; }
 
 const char* EquationName(int equation) {
     switch (equation) {
@@ -64,6 +68,11 @@ class TableWriter {
     void Line(const std::string& line, std::size_t longest = kLongestLine) {
         if (line.size() > longest) {
             throw DesignError(m_table.name + ": a line of the table is too long: " + line);
+        }
+        // The data are UTF-8, tables Windows-1252: what is the same in both is safe.
+        if (!std::all_of(line.begin(), line.end(),
+                         [](char c) { return c == '\t' || IsPlain(c); })) {
+            throw DesignError(m_table.name + ": a line of the table is not plain ASCII: " + line);
         }
         m_text += line;
         m_text += "\r\n";

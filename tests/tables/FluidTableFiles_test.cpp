@@ -37,7 +37,7 @@ TEST(FluidTableFiles, CommonFluidsAreInstalled) {
         EXPECT_TRUE(std::find(names.begin(), names.end(), name) != names.end()) << name;
     }
     for (const std::string& name : names) {
-        EXPECT_LE(name.size(), 30u) << name;
+        EXPECT_LE(name.size(), 30U) << name;
     }
 }
 
@@ -54,13 +54,13 @@ TEST(FluidTableFiles, AreWholeLinesOfPlainTextThatEveryReaderTakes) {
         }));
         const std::vector<std::string> lines = Lines(text);
         for (const std::string& line : lines) {
-            EXPECT_LE(line.size(), 258u) << line;
+            EXPECT_LE(line.size(), 258U) << line;
         }
         // A dialog shows the first two lines and takes a hundred characters of each.
-        ASSERT_GE(lines.size(), 11u);
+        ASSERT_GE(lines.size(), 11U);
         EXPECT_TRUE(lines[0].starts_with("S\t\"" + name));
         EXPECT_TRUE(lines[1].starts_with("V\t\""));
-        EXPECT_LE(std::max(lines[0].size(), lines[1].size()), 100u);
+        EXPECT_LE(std::max(lines[0].size(), lines[1].size()), 100U);
     }
 }
 

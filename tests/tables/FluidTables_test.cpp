@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 #include "InstalledTables.h"
 #include "hydrofacts/fluid/CFluid.h"
@@ -13,9 +14,8 @@ namespace {
 /// A table fluid in kelvin and absolute kPa, or in other units, with its ranges in reach.
 class TableFluid : public CFluid {
   public:
-    explicit TableFluid(const std::string& name, HF_TUNITS tunit = HF_KELVIN,
-                        HF_PUNITS punit = HF_KPA)
-        : CFluid(tunit, punit, 1, 0.0), m_folder(TableFolder()), m_fluid(name) {}
+    explicit TableFluid(std::string name, HF_TUNITS tunit = HF_KELVIN, HF_PUNITS punit = HF_KPA)
+        : CFluid(tunit, punit, 1, 0.0), m_folder(TableFolder()), m_fluid(std::move(name)) {}
 
     FLUIDSTATE At(double temperature, double pressure) {
         EXPECT_EQ(0, SetFluid(m_folder.data(), m_fluid.c_str(), temperature, pressure)) << m_fluid;

@@ -66,7 +66,8 @@ TEST_F(SpoiledData, IsRefusedWithFileLineAndField) {
         const char* message;
     };
     const Row kRows[] = {
-        {"constants.csv", ",28.96,", ",28,96,", "constants.csv:2: has 11 fields where the heading has 10"},
+        {"constants.csv", ",28.96,", ",28,96,",
+         "constants.csv:2: has 11 fields where the heading has 10"},
         {"constants.csv", ",28.96,", ",28.96x,",
          "constants.csv:2: field molecular_weight_kg_per_kmol: '28.96x' is not a number"},
         {"constants.csv", ",28.96,", ",-28.96,",
@@ -83,6 +84,9 @@ TEST_F(SpoiledData, IsRefusedWithFileLineAndField) {
         {"fluids.csv", "Ammonia,7664-41-7", "Ammonia,132259-10-0",
          "fluids.csv:3: field cas: stands twice"},
         {"fluids.csv", "Ammonia", "A/B", "fluids.csv:3: field name: holds a character"},
+        {"fluids.csv", "Ammonia", "Amm\xC3\xB3nia", "fluids.csv:3: field name: holds a character"},
+        {"vapor_pressure.csv", ",101,", ",1e300,",
+         "vapor_pressure.csv:2: field equation_form: '1e300' is no form that is known"},
         {"fluids.csv", "Ammonia", "A name of more than thirty characters",
          "fluids.csv:3: field name: is longer than 30"},
         {"vapor_pressure.csv", ",59.15,132.45,", ",132.45,59.15,",
