@@ -1,0 +1,61 @@
+#include "tools/Output.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace hydrofacts::command {
+namespace {
+
+constexpr std::size_t kGap = 2;  // blanks between columns
+
+// Characters of a text in UTF-8; none of ours is wider than one column.
+std::size_t Width(std::string_view text) {
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
+        return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
+    }));
+}
+
+}  // namespace
+
+void Print(std::string_view text) { fmt::print("{}", text); }
+
+void PrintRows(const Rows& rows) {
+    std::vector<std::size_t> widths;
+    for (const auto& row : rows) {
+        if (row.size() > widths.size()) widths.resize(row.size());
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            widths[i] = std::max(widths[i], Width(row[i]));
+        }
+    }
+    std::string text;
+    for (const auto& row : rows) {
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            text += row[i];
+            text.append(widths[i] - Width(row[i]) + kGap, ' ');
+        }
+        text.erase(text.find_last_not_of(' ') + 1);
+        text += '\n';
+    }
+    Print(text);
+}
+
+void PrintJson(const nlohmann::ordered_json& json) {
+    // A text that is no UTF-8 can only come from the command line; its bytes are replaced.
+    Print(json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
+}
+
+void PrintError(std::string_view message) {
+    std::fflush(stdout);
+    while (!message.empty()) {
+        const std::string_view line = message.substr(0, message.find('\n'));
+        message.remove_prefix(std::min(line.size() + 1, message.size()));
+        const bool ended = line.ends_with('.') || line.ends_with('?');
+        fmt::print(stderr, "hydrofacts: {}{}\n", line, ended ? "" : ".");
+    }
+}
+
+bool FlushOutput() { return std::fflush(stdout) == 0 && std::ferror(stdout) == 0; }
+
+}  // namespace hydrofacts::command

@@ -1,0 +1,37 @@
+#ifndef TOOLS_PROGRAM_H
+#define TOOLS_PROGRAM_H
+
+#include <CLI/CLI.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tools/SetPoint.h"
+
+namespace hydrofacts::command {
+
+/// Options that several subcommands have; they may stand before or behind the subcommand's name.
+struct Options {
+    std::optional<std::string> tables;
+    bool json = false;
+};
+
+void AddTablesOption(CLI::App& app, Options& options);
+void AddJsonOption(CLI::App& app, Options& options);
+void AddSetPointOptions(CLI::App& app, SetPointOptions& setPoint, bool required);
+
+// Each adds one subcommand, which throws Failure when it is run and can't do its work. `options`
+// must outlive the parsing.
+void AddFluidsCommand(CLI::App& app, Options& options);
+void AddFluidCommand(CLI::App& app, Options& options);
+void AddConvertCommand(CLI::App& app, Options& options);
+void AddUnitsCommand(CLI::App& app, Options& options);
+void AddElevationCommand(CLI::App& app, Options& options);
+
+/// Runs the program on its arguments (UTF-8, without the program's name) and returns the exit
+/// status.
+int Run(std::vector<std::string> arguments);
+
+}  // namespace hydrofacts::command
+
+#endif

@@ -1,0 +1,64 @@
+#ifndef TOOLS_TABLEFLUID_H
+#define TOOLS_TABLEFLUID_H
+
+#include <string>
+
+#include "hydrofacts/hydrofacts.h"
+#include "tools/TableDirectory.h"
+
+namespace hydrofacts::command {
+
+/// A fluid of a table that can tell its ranges, and why it has no state at a set point.
+class TableFluid : public CFluid {
+  public:
+    /// Works in the units of the caller, who keeps them alive.
+    explicit TableFluid(const Units& units) : CFluid(&units) {}
+
+    /// Loads a table; false if it is invalid.
+    bool Load(const TableDirectory& directory, const TableName& table);
+
+    /// Goes to a set point in user units.
+    void MoveTo(double temperature, double pressure);
+
+    bool HasLiquid() { return FormulasExist(FLUID_LIQUID); }
+    bool HasVapor() { return FormulasExist(FLUID_VAPOR); }
+
+    /// Whether there is a vapor pressure at the set point: below the critical temperature.
+    bool HasVaporPressure() const { return m_temperature < m_criticalTemp; }
+
+    /// The compressibility factor of the vapor at the set point.
+    double Compressibility() const;
+
+    /// "0.01 to 201.85 °C", for a fluid with liquid formulas.
+    std::string LiquidRange() const;
+    /// "0.01 to 800 °C, up to 165 bar absolute", for a fluid with vapor formulas.
+    std::string VaporRange() const;
+
+    /// Which limit the set point passes, in user units: for a fluid in the state none.
+    std::string WhyNoState();
+
+  private:
+    std::string WhyNotLiquid() const;
+    std::string WhyNotVapor() const;
+    std::string WhyBetween() const;
+    FLUIDSTATE StateWithoutRanges() const;
+
+    double Saturation(int slot) const;
+    std::string Range(double minK, double maxK) const;
+    std::string TemperatureText(double kelvin) const;
+    std::string PressureText(double kPa) const;
+    std::string UserPressureText(double absolute) const;
+    std::string SetTemperature() const;
+    std::string SetPressure() const;
+    std::string TooCold(const char* what, double limitK) const;
+    std::string TooHot(const char* what, double limitK) const;
+};
+
+/// "psi absolute" and the like.
+std::string AbsoluteUnit(const Units& units);
+/// The user's pressure unit, with "gauge" or "absolute".
+std::string UserPressureUnit(const Units& units);
+
+}  // namespace hydrofacts::command
+
+#endif
