@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+
+#include "hydrofacts/fluid/CFluid.h"
+#include "hydrofacts/units/Atmospheric_Pressure_Equations.h"
+#include "hydrofacts/units/UnitValue.h"
+
+namespace {
+
+using Length = UnitValue<7, 0>;
+using Viscosity = UnitValue<4, 0>;
+
+CFluid LiquidOfDensity(double kgPerM3) {
+    CFluid fluid(HF_DEG_C, HF_BAR, 0, 1.0);
+    fluid.SetFluidProperties("Liquid", FLUID_USER_LIQUID, 20.0, 0.0, kgPerM3, 1.0, 0.0, 0.0, 0.0,
+                             0.0, 0.0, 0.0);
+    return fluid;
+}
+
+TEST(UnitValue, NewValueIsZeroInTheFirstUnit) {
+    const Length length;
+    EXPECT_EQ(length.unit, 0);
+    EXPECT_EQ(length.raw_value(), 0.0);
+    EXPECT_EQ(length.fluid, nullptr);
+    EXPECT_EQ(length.units, Units::defaultUnits());
+}
+
+TEST(UnitValue, SettersDoNotConvert) {
+    Length length(HF_LEN_M, 1.0);
+    EXPECT_DOUBLE_EQ(length.value_in(HF_LEN_CM), 100.0);
+    length.set_unit(HF_LEN_FT);
+    EXPECT_EQ(length.value_in(HF_LEN_FT), 1.0);
+    length.set_value(2.0);
+    EXPECT_DOUBLE_EQ(length.value_in(HF_LEN_IN), 24.0);
+}
+
+TEST(UnitValue, UserUnitIsThatOfTheSharedUnits) {
+    const int former = Units::defaultUnits()->SetUserUnit(HF_LENGTH, HF_LEN_CM);
+    EXPECT_DOUBLE_EQ(Length(HF_LEN_M, 2.0).value_in(HF_USER_UNIT), 200.0);
+    Units::defaultUnits()->SetUserUnit(HF_LENGTH, former);
+}
+
+TEST(UnitValue, CopyOwnsItsFluidAndSharedUnits) {
+    Units others;
+    auto source = std::make_unique<Viscosity>(1, LiquidOfDensity(500.0), 10.0);
+    source->units = &others;
+    const Viscosity copy(*source);
+    Viscosity assigned;
+    assigned = *source;
+    EXPECT_NE(copy.fluid.get(), source->fluid.get());
+    source.reset();
+    for (const Viscosity* value : {&copy, static_cast<const Viscosity*>(&assigned)}) {
+        EXPECT_EQ(value->units, Units::defaultUnits());
+        EXPECT_NEAR(value->value_in(0), 10.0 / 999.93656 * 500.0, 1e-14);
+    }
+}
+
+TEST(UnitValue, NewUnitLetsGoOfTheFluid) {
+    Viscosity viscosity(1, LiquidOfDensity(500.0), 10.0);
+    viscosity.set_unit(1);
+    EXPECT_EQ(viscosity.fluid, nullptr);
+    EXPECT_EQ(viscosity.value_in(0), 0.0);
+}
+
+TEST(UnitValue, DynamicViscosityStaysFromFluidToFluid) {
+    const CFluid light = LiquidOfDensity(500.0);
+    const CFluid heavy = LiquidOfDensity(1000.0);
+    const Viscosity source(1, light, 10.0);
+    Viscosity target(1, heavy);
+    EXPECT_EQ(target.raw_value(), 0.0);
+    target.assign(source);
+    EXPECT_NEAR(target.raw_value(), 5.0, 1e-14);
+    EXPECT_EQ(target.fluid->GetDensity(), 1000.0);
+    EXPECT_NEAR(source.value_in(1, &heavy), 5.0, 1e-14);
+    EXPECT_EQ(source.value_in(1, nullptr), 10.0);
+    EXPECT_EQ(source.value_in(1, &light), 10.0);
+    // Without a fluid of its own it is taken in the other's.
+    EXPECT_EQ(Viscosity(1, 10.0).value_in(1, &heavy), 10.0);
+    EXPECT_NEAR(Viscosity(1, 10.0).value_in(0, &heavy), 10.0 / 999.93656 * 1000.0, 1e-13);
+}
+
+// U.S. Standard Atmosphere 1976: 101325, 84307 and 57182 Pa. Good to 0.02%, since 14.697 psi at sea
+// level is a rounded figure.
+TEST(AtmosphereEquation, FollowsTheStandardAtmosphere) {
+    constexpr double kPoints[][2] = {{0.0, 14.696}, {5000.0, 12.228}, {15000.0, 8.2935}};
+    for (const auto& [feet, psi] : kPoints) {
+        const auto pressure =
+            Atmospheric_Pressure_Equations::atmospheric_pressure_at_elevation({HF_LEN_FT, feet});
+        EXPECT_EQ(pressure.unit, HF_PSI);
+        EXPECT_NEAR(pressure.raw_value(), psi, 2e-4 * psi) << feet;
+    }
+}
+
+TEST(AtmosphereEquation, LimitsAreValidAndWhatLiesBeyondIsNotANumber) {
+    const auto at = [](int unit, double elevation) {
+        return Atmospheric_Pressure_Equations::atmospheric_pressure_at_elevation({unit, elevation})
+            .raw_value();
+    };
+    for (int unit = HF_LEN_M; unit <= HF_LEN_MI; ++unit) EXPECT_EQ(at(unit, 0.0), 14.697);
+    EXPECT_GT(at(HF_LEN_FT, -10000.0), 20.0);
+    for (const double feet :
+         {std::nextafter(15000.0, 1e9), std::nextafter(-10000.0, -1e9), std::nan("")}) {
+        EXPECT_TRUE(std::isnan(at(HF_LEN_FT, feet))) << feet;
+    }
+    EXPECT_TRUE(std::isnan(at(HF_LEN_M, 4573.0)));  // 15003 ft
+    EXPECT_FALSE(std::isnan(at(HF_LEN_M, 4571.0)));
+}
+
+}  // namespace
