@@ -58,7 +58,7 @@ std::string UnknownUnit(const std::string& unit, const std::vector<HF_UNIT_TYPES
     std::string text = fmt::format("unknown unit \"{}\"", unit);
     if (otherTypes.empty()) return text + "; `hydrofacts units` lists all units";
     for (const HF_UNIT_TYPES type : otherTypes) {
-        text += fmt::format("; the units of {} are {}", MeasureName(type), ListOfUnits(type));
+        text += "; " + UnitHint(type, unit);
     }
     return text;
 }

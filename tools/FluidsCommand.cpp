@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "tools/Names.h"
 #include "tools/Output.h"
 #include "tools/Program.h"
 #include "tools/TableDirectory.h"
@@ -11,7 +12,8 @@ namespace hydrofacts::command {
 namespace {
 
 constexpr const char* kFooter =
-    R"(The levels are those by which a host may leave a table out of its lists. Tables that can't be used are named on standard error.
+    R"(The levels are those by which a host may leave a table out of its lists. Tables that can't be
+used are named on standard error.
 
 Examples:
   hydrofacts fluids
@@ -36,7 +38,8 @@ std::vector<ListedFluid> UsableFluids(const TableDirectory& directory, const std
         }
         const bool liquid = fluid.HasLiquid();
         const bool vapor = fluid.HasVapor();
-        if ((state == "liquid" && !liquid) || (state == "vapor" && !vapor)) continue;
+        if (EqualIgnoringCase(state, "liquid") && !liquid) continue;
+        if (EqualIgnoringCase(state, "vapor") && !vapor) continue;
         fluids.push_back({table.name, liquid, vapor, ReadTableHead(table)});
     }
     return fluids;

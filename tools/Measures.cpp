@@ -121,17 +121,30 @@ std::optional<int> FindUnit(HF_UNIT_TYPES type, std::string_view text) {
     return std::nullopt;
 }
 
+std::string UnitHint(HF_UNIT_TYPES type, std::string_view text) {
+    if (type == HF_PRESSURE && !text.empty()) {
+        // "psig", "bara".
+        const auto id = FindUnit(type, text.substr(0, text.size() - 1));
+        const std::string last = LowerCase(text.substr(text.size() - 1));
+        if (id && (last == "g" || last == "a")) {
+            return fmt::format("write {}: gauge or absolute is no part of a unit",
+                               UnitText(type, *id));
+        }
+    }
+    return fmt::format("the units of {} are {}", MeasureName(type), ListOfUnits(type));
+}
+
 int RequireUnit(HF_UNIT_TYPES type, std::string_view text) {
     const auto id = FindUnit(type, text);
     if (!id) {
-        throw Failure(fmt::format("unknown unit of {} \"{}\"; the units are {}", MeasureName(type),
-                                  text, ListOfUnits(type)));
+        throw Failure(fmt::format("unknown unit of {} \"{}\"; {}", MeasureName(type), text,
+                                  UnitHint(type, text)));
     }
     if (IsCustomUnit(type, *id)) {
         throw Failure(
-            fmt::format("OTHER is a unit of {} that a program defines for itself; it has "
-                        "no factor here. The units are {}",
-                        MeasureName(type), ListOfUnits(type)));
+            fmt::format("OTHER is a unit of {} that a program defines for itself, without "
+                        "a factor here; {}",
+                        MeasureName(type), UnitHint(type, text)));
     }
     return *id;
 }

@@ -38,7 +38,11 @@ bool IsCustomUnit(HF_UNIT_TYPES type, int id);
 /// "gpm", "kg/s".
 std::optional<int> FindUnit(HF_UNIT_TYPES type, std::string_view text);
 
-/// The same, or a Failure that lists the measure's units; also for the unit without a factor.
+/// What to say of a text that is no unit of the measure: "the units of area are ...", or what to
+/// write in its place.
+std::string UnitHint(HF_UNIT_TYPES type, std::string_view text);
+
+/// The unit of that text, or a Failure with the hint; also for the unit without a factor.
 int RequireUnit(HF_UNIT_TYPES type, std::string_view text);
 
 /// The texts of the units that can be converted, with commas between.

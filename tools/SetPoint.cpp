@@ -4,6 +4,7 @@
 
 #include "tools/Failure.h"
 #include "tools/Measures.h"
+#include "tools/Names.h"
 #include "tools/Numbers.h"
 #include "tools/TableFluid.h"
 
@@ -43,7 +44,7 @@ SetPoint::SetPoint(const SetPointOptions& options)
 }
 
 void SetPoint::SetUnits(const SetPointOptions& options) {
-    HF_UNITS system = options.system == "metric" ? HF_METRIC : HF_US;
+    HF_UNITS system = EqualIgnoringCase(options.system, "metric") ? HF_METRIC : HF_US;
     int temperatureUnit = -1;
     if (!options.temperatureUnit.empty()) {
         temperatureUnit = RequireUnit(HF_TEMPERATURE, options.temperatureUnit);

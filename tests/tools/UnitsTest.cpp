@@ -1,0 +1,41 @@
+#include <set>
+
+#include "tests/tools/CommandRunner.h"
+
+namespace {
+
+using ::testing::HasSubstr;
+
+using UnitsCommand = CommandRunner;
+
+TEST_F(UnitsCommand, ListsEveryMeasure) {
+    const auto all = RunForJson("units");
+    const std::pair<const char*, std::size_t> expected[] = {
+        {"temperature", 4},       {"pressure", 14}, {"flow", 26},  {"density", 4}, {"viscosity", 2},
+        {"velocity", 3},          {"power", 3},     {"length", 9}, {"head", 14},   {"area", 5},
+        {"thrust-per-length", 2},
+    };
+    ASSERT_EQ(all.size(), std::size(expected));
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        EXPECT_EQ(all[i]["measure"], expected[i].first);
+        EXPECT_EQ(all[i]["units"].size(), expected[i].second) << expected[i].first;
+    }
+}
+
+TEST_F(UnitsCommand, TellsWhatOneOfAUnitIs) {
+    const auto flow = RunForJson("units Flow")["units"];
+    EXPECT_EQ(flow[9]["text"], "m\u00B3/hr");
+    EXPECT_EQ(flow[9]["factor"], 4.4028675);
+    EXPECT_EQ(flow[9]["base"], "US gpm");
+    EXPECT_NEAR(flow[14]["factor"], 3600.0, 1e-6);  // kg/sec in kg/hr
+    EXPECT_EQ(flow[14]["base"], "kg/hr");
+    EXPECT_EQ(flow[18]["base"], "scfm");
+    EXPECT_FALSE(flow[25].contains("factor"));
+
+    const Outcome plain = Run("units pressure");
+    EXPECT_THAT(plain.out, HasSubstr("psi      0  6.894757293 kPa\n"));
+    EXPECT_THAT(plain.out, HasSubstr("ft H2O  12  head of a fluid\n"));
+    ExpectRefused("units weight", "temperature, pressure, flow");
+}
+
+}  // namespace
