@@ -74,7 +74,13 @@ double RoundByPower(double value, int places) {
     return RoundHalfUp(scaled, rest / power) * power;
 }
 
-using Whole = boost::multiprecision::cpp_int;
+// The largest double takes 1024 bits, the smallest has its last one at 2⁻¹⁰⁷⁴, and 400 places are
+// 1329 bits; products and shifted operands of these fit. Without an allocator, so that rounding
+// costs no allocation.
+constexpr unsigned kWholeBits = 4096;
+using Whole = boost::multiprecision::number<boost::multiprecision::cpp_int_backend<
+    kWholeBits, kWholeBits, boost::multiprecision::unsigned_magnitude,
+    boost::multiprecision::unchecked, void>>;
 
 struct Ratio {
     Whole over;
