@@ -14,14 +14,16 @@ namespace {
 
 std::atomic<long> allocations{0};
 
-}  // namespace
-
-void* operator new(std::size_t size) {
+void* Count(std::size_t size) {
     ++allocations;
     if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
     throw std::bad_alloc();
 }
-void* operator new[](std::size_t size) { return operator new(size); }
+
+}  // namespace
+
+void* operator new(std::size_t size) { return Count(size); }
+void* operator new[](std::size_t size) { return Count(size); }
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete[](void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
