@@ -45,15 +45,19 @@ void AppendUtf8(std::string& text, char32_t point) {
     text += static_cast<char>(0x80U | (point & 0x3FU));
 }
 
+// The bytes of a character that begins so; 0 if none does.
+std::size_t SequenceLength(unsigned char lead) {
+    if (lead < 0x80) return 1;
+    if (lead < 0xC2) return 0;
+    if (lead < 0xE0) return 2;
+    if (lead < 0xF0) return 3;
+    return lead < 0xF5 ? 4 : 0;
+}
+
 // Takes one code point off the front of `text`; nothing if it doesn't begin with a well-formed one.
 std::optional<char32_t> TakeCodePoint(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t length = lead < 0x80   ? 1
-                               : lead < 0xC2 ? 0
-                               : lead < 0xE0 ? 2
-                               : lead < 0xF0 ? 3
-                               : lead < 0xF5 ? 4
-                                             : 0;
+    const std::size_t length = SequenceLength(lead);
     if (length == 0 || text.size() < length) return std::nullopt;
     char32_t point = length == 1 ? lead : lead & (0xFFU >> (length + 1));
     for (const char c : text.substr(1, length - 1)) {

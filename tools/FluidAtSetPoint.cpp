@@ -4,6 +4,7 @@
 
 #include "tools/Encoding.h"
 #include "tools/Failure.h"
+#include "tools/Platform.h"
 
 namespace hydrofacts::command {
 namespace {
@@ -23,7 +24,7 @@ std::string LibraryMessage(unsigned id) {
 void LoadAtSetPoint(TableFluid& fluid, const TableDirectory& directory, const TableName& table,
                     const SetPoint& point) {
     if (!fluid.Load(directory, table)) {
-        throw Failure(table.path + ": not a valid fluid table");
+        throw Failure(Utf8FromPath(table.file) + ": not a valid fluid table");
     }
     fluid.MoveTo(point.Temperature(), point.Pressure());
 }

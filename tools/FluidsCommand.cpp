@@ -4,6 +4,7 @@
 
 #include "tools/Names.h"
 #include "tools/Output.h"
+#include "tools/Platform.h"
 #include "tools/Program.h"
 #include "tools/TableDirectory.h"
 #include "tools/TableFluid.h"
@@ -33,7 +34,7 @@ std::vector<ListedFluid> UsableFluids(const TableDirectory& directory, const std
         const Units units;
         TableFluid fluid(units);
         if (!fluid.Load(directory, table)) {
-            PrintError(table.path + ": not a valid fluid table");
+            PrintError(Utf8FromPath(table.file) + ": not a valid fluid table");
             continue;
         }
         const bool liquid = fluid.HasLiquid();

@@ -76,6 +76,7 @@ std::vector<std::string> NearestNames(std::string_view wanted, std::span<const s
                      [](const auto& a, const auto& b) { return a.first < b.first; });
     if (ranked.size() > kMostNames) ranked.resize(kMostNames);
     std::vector<std::string> nearest;
+    nearest.reserve(ranked.size());
     for (auto& [distance, name] : ranked) nearest.push_back(std::move(name));
     return nearest;
 }

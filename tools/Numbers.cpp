@@ -35,7 +35,7 @@ std::string SignificantNumber(double value, int digits) {
     if (value == 0.0) return "0";
     if (!std::isfinite(value)) return "not a number";
     // Rounding may carry into the next power of ten, so the rounded text tells the exponent.
-    const std::string rounded = fmt::format("{:.{}e}", value, digits - 1);
+    std::string rounded = fmt::format("{:.{}e}", value, digits - 1);
     int exponent = 0;
     const char* first = rounded.data() + rounded.find('e') + 1;
     if (*first == '+') ++first;

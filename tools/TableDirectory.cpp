@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <fstream>
 
 #include "hydrofacts/hydrofacts.h"
@@ -81,9 +80,9 @@ void TableDirectory::ReadNames() {
         const std::string name = Utf8FromPath(path.stem());
 #ifdef _WIN32
         // Names of files are wide there; the library asks for them in the ANSI code page.
-        m_tables.push_back({name, NarrowFromUtf8(name), Utf8FromPath(path)});
+        m_tables.push_back({name, NarrowFromUtf8(name), path});
 #else
-        m_tables.push_back({name, path.stem().native(), Utf8FromPath(path)});
+        m_tables.push_back({name, path.stem().native(), path});
 #endif
     }
     if (m_tables.empty()) {
@@ -124,7 +123,7 @@ TableName TableDirectory::RequireFluid(std::string_view name) const {
 
 TableHead ReadTableHead(const TableName& table) {
     TableHead head;
-    std::ifstream file(PathFromUtf8(table.path), std::ios::binary);
+    std::ifstream file(table.file, std::ios::binary);
     std::string line;
     bool titled = false;
     while (std::getline(file, line)) {

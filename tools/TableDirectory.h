@@ -1,6 +1,7 @@
 #ifndef TOOLS_TABLEDIRECTORY_H
 #define TOOLS_TABLEDIRECTORY_H
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,9 +11,9 @@ namespace hydrofacts::command {
 
 /// A table file found in the directory.
 struct TableName {
-    std::string name;    ///< the fluid's name in UTF-8
-    std::string narrow;  ///< the same for the library
-    std::string path;    ///< the file in UTF-8, for messages
+    std::string name;            ///< the fluid's name in UTF-8
+    std::string narrow;          ///< the same for the library
+    std::filesystem::path file;  ///< the table file
 };
 
 /// The head lines of a table.

@@ -4,7 +4,6 @@
 
 #include "tools/Measures.h"
 #include "tools/Numbers.h"
-#include "tools/Platform.h"
 
 namespace hydrofacts::command {
 namespace {
@@ -163,7 +162,7 @@ std::string TableFluid::PressureText(double kPa) const {
 // An absolute pressure in the user's unit, told as the user gives pressures; if that is gauge, then
 // absolute besides.
 std::string TableFluid::UserPressureText(double absolute) const {
-    const std::string text =
+    std::string text =
         fmt::format("{} {}", ShortNumber(absolute, kLimitDigits), AbsoluteUnit(*m_pUnits));
     if (m_pUnits->GetAbsolute()) return text;
     const double gauge = absolute - m_pUnits->GetAtmosphere(HF_USER_UNIT, false);
