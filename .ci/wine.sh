@@ -19,3 +19,6 @@ if [[ ! -e $WINEPREFIX/ready ]]; then
 fi
 trap stop_wine EXIT
 wineserver -p
+# Wine's own services start with the first program and stay. Were that one a program of the build, they
+# would hold on to its output, and the build would wait for them.
+quietly wine-start wine cmd /c exit
