@@ -72,11 +72,14 @@ void CheckForm(const CsvRow& row, std::string_view column, double value) {
 
 // The number of "SDR 21" and "DR 21".
 std::optional<double> DimensionRatio(std::string_view schedule) {
-    const std::size_t start = schedule.find("DR ");
-    if (start == std::string_view::npos || start > 1 || (start == 1 && schedule.front() != 'S')) {
+    constexpr std::string_view kKey = "DR ";
+    if (schedule.starts_with('S')) {
+        schedule.remove_prefix(1);
+    }
+    if (!schedule.starts_with(kKey)) {
         return std::nullopt;
     }
-    schedule.remove_prefix(start + 3);
+    schedule.remove_prefix(kKey.size());
     double ratio = 0.0;
     const char* const end = schedule.data() + schedule.size();
     const auto [stop, error] = std::from_chars(schedule.data(), end, ratio);
