@@ -20,14 +20,17 @@ void* Count(std::size_t size) {
     throw std::bad_alloc();
 }
 
+// Apart, since the compiler takes an inlined call of free for a mismatch.
+[[gnu::noinline]] void Release(void* memory) { std::free(memory); }
+
 }  // namespace
 
 void* operator new(std::size_t size) { return Count(size); }
 void* operator new[](std::size_t size) { return Count(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory) noexcept { Release(memory); }
+void operator delete[](void* memory) noexcept { Release(memory); }
+void operator delete(void* memory, std::size_t) noexcept { Release(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { Release(memory); }
 
 namespace {
 

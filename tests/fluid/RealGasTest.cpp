@@ -102,6 +102,7 @@ TEST_F(RealGas, CapStaysAtTheColdestTemperatureSinceTheReset) {
     saturation.m_coefficients[0] = -3100.0;
     EXPECT_EQ(fluid_.CalcZ(330.0, 49.5, false), Equation(330.0, 49.5));
     EXPECT_DOUBLE_EQ(fluid_.CalcZ(312.0, 60.0, false), Equation(312.0, 19.8));
+    EXPECT_DOUBLE_EQ(fluid_.CalcZ(312.0, 40.0, true), Equation(312.0, 19.8));
 }
 
 TEST_F(RealGas, CriticalTemperatureIsThatOfTheLastReset) {

@@ -34,6 +34,7 @@ TEST(UserFluid, DensityAndSpecificGravityFillEachOther) {
         {{FLUID_USER_LIQUID, 0.0, 0.0}, 0.0, 0.0},
         {{FLUID_USER_LIQUID, -5.0, 0.0}, -5.0, 0.0},
         {{FLUID_USER_VAPOR, 2.0, 0.0, 44.01}, 2.0, 1.52},  // 44.01 / 28.9586
+        {{FLUID_USER_VAPOR, 2.0, 0.0, 2.016}, 2.0, 0.0696},
         {{FLUID_USER_VAPOR, 0.0, 1.0}, 2.377, 1.0},
         {{FLUID_USER_VAPOR, 0.0, 0.0}, 0.0, 0.0},
         {{FLUID_LIQUID, 2.0, 1.1}, 2.0, 1.1},  // anything but a user liquid is a vapor
@@ -70,6 +71,14 @@ TEST(UserFluid, GettersGiveWhatWasStored) {
     EXPECT_EQ(vapor.GetSpHeat(400.0), 1.4567);
     EXPECT_EQ(vapor.GetVaporPres(), 0.0);
     EXPECT_EQ(vapor.GetUVaporPres(), 0.0);
+}
+
+TEST(UserFluid, VaporOfNoDensityHasThatOfItsMolecularWeight) {
+    TestFluid fluid = Make({FLUID_USER_VAPOR, 0.0, 0.0, 44.01});
+    EXPECT_EQ(fluid.GetUDensity(), 0.0);
+    EXPECT_EQ(fluid.GetSG(), 0.0);
+    EXPECT_FALSE(fluid.IsIdealGas());
+    EXPECT_DOUBLE_EQ(fluid.GetDensity(), 200.0 * 44.01 / (8.3144 * 293.15));
 }
 
 TEST(UserFluid, StoredDensityIsReadInTheSystemInForce) {
