@@ -5,9 +5,11 @@
 #include <cstring>
 #include <iterator>
 #include <memory>
+#include <string_view>
 
 #include "hydrofacts/frame/NodeList.h"
 #include "hydrofacts/frame/RecordKey.h"
+#include "hydrofacts/frame/TableFile.h"
 #include "hydrofacts/frame/TableSearch.h"
 #include "hydrofacts/pipe/PipeRecord.h"
 #include "hydrofacts/pipe/SizeCombo.h"
@@ -30,12 +32,11 @@ hydrofacts::TablePath PathOf(const char* directory, const char* material) {
     return {directory, material, hydrofacts::kPipeExtension};
 }
 
-bool FindSchedule(TextFile& file, char* line, const char* schedule) {
-    for (file.ReadLine(line, kPipeLineSize); !file.eof(); file.ReadLine(line, kPipeLineSize)) {
-        const char* found = hydrofacts::ScheduleOf(line);
-        if (found != nullptr && std::strcmp(found, schedule) == 0) return true;
-    }
-    return false;
+bool FindSchedule(TextFile& file, char* line, std::string_view schedule) {
+    do {
+        file.ReadLine(line, kPipeLineSize);
+    } while (!file.eof() && hydrofacts::ScheduleIn(line) != schedule);
+    return !file.eof();
 }
 
 struct SizeRow {
@@ -47,9 +48,11 @@ struct SizeRow {
     bool IsComplete() const { return nominal != 0.0 && insideDia != 0.0 && secondDim != 0.0; }
 };
 
-// Reads the rest of a row that is cut up to its schedule: nominal size US, metric; diameter and
-// second dimension US; the same metric.
-SizeRow ReadRow(HF_UNITS units) {
+// The fields behind key and schedule: nominal size US, metric; diameter and second dimension US;
+// the same metric.
+SizeRow ReadRow(char* line, HF_UNITS units) {
+    NextField(line);
+    NextField(nullptr);
     char* fields[6];
     for (char*& field : fields) field = NextField(nullptr);
     const bool metric = units == HF_METRIC;
@@ -181,11 +184,11 @@ bool CPipeTable::ReadMaterialRecord() {
     return true;
 }
 
-// `line` is the schedule's first row, cut up to the schedule.
+// `line` is the schedule's first row.
 bool CPipeTable::ReadSizes(TextFile& file, char* line, const hydrofacts::SizeCombo& combo) {
     hydrofacts::ListEnd<t_pipe_size> end(pipe_list);
     for (;;) {
-        const SizeRow row = ReadRow(units);
+        const SizeRow row = ReadRow(line, units);
         if (!row.IsComplete()) return false;
         combo.Add(row.sizeText);
         t_pipe_size& size = end.Append(std::make_unique<t_pipe_size>());
@@ -195,8 +198,8 @@ bool CPipeTable::ReadSizes(TextFile& file, char* line, const hydrofacts::SizeCom
 
         file.ReadLine(line, kPipeLineSize);
         if (file.eof() || *line != 'Z') return true;
-        const char* next = hydrofacts::ScheduleOf(line);
-        if (next == nullptr) return false;
-        if (std::strcmp(next, schedule) != 0) return true;
+        const auto next = hydrofacts::ScheduleIn(line);
+        if (!next) return false;
+        if (*next != schedule) return true;
     }
 }

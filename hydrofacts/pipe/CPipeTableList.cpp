@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "hydrofacts/frame/TableFile.h"
 #include "hydrofacts/frame/TableSearch.h"
 #include "hydrofacts/pipe/NameList.h"
 #include "hydrofacts/pipe/PipeRecord.h"
@@ -14,6 +15,7 @@
 using hydrofacts::kPipeExtension;
 using hydrofacts::kPipeLineSize;
 using hydrofacts::NameList;
+using hydrofacts::NextField;
 using hydrofacts::TableSearch;
 
 namespace {
@@ -82,10 +84,10 @@ int CPipeTableList::ListPipeSchedules(char* buffer, int size, const char* table)
     NameList names(buffer, size);
     std::string last;
     do {
-        const char* scheduleName = hydrofacts::ScheduleOf(line);
-        if (scheduleName != nullptr && last != scheduleName) {
-            if (!names.Add(scheduleName)) break;
-            last = scheduleName;
+        const auto scheduleName = hydrofacts::ScheduleIn(line);
+        if (scheduleName && last != *scheduleName) {
+            if (!names.Add(*scheduleName)) break;
+            last = *scheduleName;
         }
         ReadPipeRecords(&file, line, sizeof line);
     } while (!file.eof());
@@ -106,8 +108,7 @@ int CPipeTableList::ListPipeSizes(char* buffer, int size, const char* table,
     char line[kPipeLineSize] = "";
     const auto readRow = [&file, &line, scheduleName] {
         ReadPipeRecords(&file, line, sizeof line);
-        const char* found = hydrofacts::ScheduleOf(line);
-        return !file.eof() && found != nullptr && std::strcmp(found, scheduleName) == 0;
+        return !file.eof() && hydrofacts::ScheduleIn(line) == scheduleName;
     };
     while (!readRow()) {
         if (file.eof()) return kNoSchedule;
@@ -115,8 +116,10 @@ int CPipeTableList::ListPipeSizes(char* buffer, int size, const char* table,
 
     NameList names(buffer, size);
     do {
-        if (units == HF_METRIC) hydrofacts::NextField(nullptr);
-        const char* nominal = hydrofacts::NextField(nullptr);
+        NextField(line);
+        NextField(nullptr);
+        if (units == HF_METRIC) NextField(nullptr);
+        const char* nominal = NextField(nullptr);
         if (nominal == nullptr || !names.Add(nominal)) break;
     } while (readRow());
     names.CutLastTab();

@@ -2,6 +2,7 @@
 #define HYDROFACTS_PIPE_NAMELIST_H
 
 #include <cstddef>
+#include <string_view>
 
 namespace hydrofacts {
 
@@ -13,7 +14,7 @@ class NameList {
 
     /// Writes a name if it fits with its tab and the terminating zero. If it doesn't, nothing is
     /// written and Result is -1 from then on.
-    bool Add(const char* name);
+    bool Add(std::string_view name);
 
     /// Puts the terminating zero in the place of the last tab; does nothing to an empty list.
     void CutLastTab();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <sstream>
 #include <string>
 
@@ -128,7 +129,8 @@ TEST_F(ValveTable, RowsBeyondAHundredMakeAFurtherRecord) {
     const std::string longName(45, 'n');
     for (int i = 1; i <= 102; ++i) {
         const std::string limit = std::to_string(i);
-        lines += "Z|Fitting|\"" + longName + "\"|9|0.5|" + limit + "|" + limit + "|2\n";
+        lines.append("Z|Fitting|\"").append(longName).append("\"|9|0.5|");
+        lines.append(limit).append("|").append(limit).append("|2\n");
     }
     const OpenTable table = Load(lines);
     const CValveType* first = table.List(0);
@@ -178,10 +180,10 @@ TEST_F(ValveTable, CopiesOwnTheirRecords) {
     OpenTable target = Load("Z|Valve|\"other\"|1|1|2|3|4\n");
     {
         OpenTable source = Load(kLines);
-        const OpenTable copy = source;
+        const auto copy = std::make_unique<OpenTable>(source);
         target = source;
         source.List(1)->data[0] = 7.0;
-        EXPECT_EQ(copy.Records(), kRecords);
+        EXPECT_EQ(copy->Records(), kRecords);
     }
     OpenTable& same = target;
     target = same;
