@@ -40,7 +40,7 @@ class LoadedFluid : public CFluid {
 
   private:
     [[noreturn]] void Fail(const std::string& what) const {
-        throw DesignError(m_fluidName + ": the table " + what);
+        throw DesignError("the table " + what);
     }
 
     void Demand(bool holds, const char* what, double temperature) const {
@@ -76,7 +76,9 @@ class LoadedFluid : public CFluid {
         const bool liquid = FormulasExist(FLUID_LIQUID);
         double lastBubble = 0.0;
         double lastDew = 0.0;
-        Over(liquid ? m_liquidMinTemp : m_vaporMinTemp, m_criticalTemp, [&](double t) {
+        const double from =
+            liquid ? m_liquidMinTemp : std::min(m_vaporMinTemp, 0.9 * m_criticalTemp);
+        Over(from, m_criticalTemp, [&](double t) {
             const double bubble = BubblePressure(t);
             const double dew = DewPressure(t);
             Demand(bubble > lastBubble, "has a saturation pressure that does not rise", t);

@@ -121,26 +121,53 @@ Deviation Measure(const CFormula& formula, const FluidConstants& constants,
     return result;
 }
 
-bool HasSoundShape(Property property, const CFormula& formula, const FluidConstants& constants,
-                   const Range& range) {
-    double last = Falls(property) ? INFINITY : 0.0;
+Range SoundPart(Property property, const CFormula& formula, const FluidConstants& constants,
+                const Range& range) {
+    Range best{range.min, range.min};
+    Range part = best;
+    double last = NAN;
     for (int i = 0; i <= kShapeSteps; ++i) {
-        const double t = range.min + range.Span() * i / kShapeSteps;
+        const double t = i == kShapeSteps ? range.max : range.min + range.Span() * i / kShapeSteps;
         const double value = Evaluate(formula, constants, t);
         const bool expands = property == Property::LiquidDensity && t < constants.densestAt;
-        if (!(value > 0.0)) {
-            return false;
+        const bool goesOn =
+            property == Property::GasHeatCapacity
+                ? value > kGasConstant && last > kGasConstant
+                : value > 0.0 && (expands || (Falls(property) ? value < last : value > last));
+        if (!goesOn) {
+            part.min = t;
         }
-        if (property == Property::GasHeatCapacity) {
-            if (value <= kGasConstant) {
-                return false;
-            }
-        } else if (!expands && (Falls(property) ? value >= last : value <= last)) {
-            return false;
+        part.max = t;
+        last = value > 0.0 ? value : NAN;
+        if (part.Span() > best.Span()) {
+            best = part;
         }
-        last = value;
     }
-    return !IsSaturation(property) || StaysUpAboveCritical(formula, constants);
+    return best;
+}
+
+bool HasSoundShape(Property property, const CFormula& formula, const FluidConstants& constants,
+                   const Range& range) {
+    return SoundPart(property, formula, constants, range).Span() == range.Span() &&
+           (!IsSaturation(property) || StaysUpAboveCritical(formula, constants));
+}
+
+const char* PropertyName(Property property) {
+    switch (property) {
+        case Property::VaporPressure:
+            return "vapor pressure";
+        case Property::DewPressure:
+            return "dew pressure";
+        case Property::LiquidDensity:
+            return "liquid density";
+        case Property::LiquidViscosity:
+            return "liquid viscosity";
+        case Property::GasViscosity:
+            return "gas viscosity";
+        case Property::GasHeatCapacity:
+            break;
+    }
+    return "heat capacity";
 }
 
 }  // namespace hydrofacts::tables

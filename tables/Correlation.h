@@ -51,6 +51,13 @@ Deviation Measure(const CFormula& formula, const FluidConstants& constants,
 bool HasSoundShape(Property property, const CFormula& formula, const FluidConstants& constants,
                    const Range& range);
 
+/// The longest part of the range in which the formula is positive and goes the way of its property.
+Range SoundPart(Property property, const CFormula& formula, const FluidConstants& constants,
+                const Range& range);
+
+/// How the tables and reports name a property: "liquid density".
+const char* PropertyName(Property property);
+
 }  // namespace hydrofacts::tables
 
 #endif

@@ -119,4 +119,8 @@ std::vector<CsvRow> ReadCsv(const std::filesystem::path& file) {
     return rows;
 }
 
+std::string CsvField(const std::string& text) {
+    return text.find(',') == std::string::npos ? text : '"' + text + '"';
+}
+
 }  // namespace hydrofacts::tables

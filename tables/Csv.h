@@ -53,6 +53,9 @@ class CsvRow {
 /// many fields.
 std::vector<CsvRow> ReadCsv(const std::filesystem::path& file);
 
+/// A text as a field of a CSV file, in double quotes where it holds a comma.
+std::string CsvField(const std::string& text);
+
 }  // namespace hydrofacts::tables
 
 #endif

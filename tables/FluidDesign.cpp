@@ -12,6 +12,7 @@ namespace {
 // Close to the critical point the liquid correlations bend away, without check data unnoticed.
 constexpr double kLiquidEndChecked = 0.982;   // of the critical temperature
 constexpr double kLiquidEndUnchecked = 0.95;  // of the critical temperature
+constexpr const char* kNoCommonRange = "the ranges of the formulas have nothing in common";
 
 const ChosenFormula* Find(const FluidTable& table, Property property) {
     const auto found = table.formulas.find(property);
@@ -56,10 +57,19 @@ Range WantedVaporRange(const FluidData& fluid, double lowest) {
             std::min(dataEnd, fluid.options.vaporMax.value_or(kHighestTemperature))};
 }
 
-void Choose(FluidTable& table, const FluidData& fluid, Property property, const Range& wanted) {
-    if (auto choice = ChooseFormula(property, fluid, wanted)) {
-        table.formulas.emplace(property, std::move(*choice));
+// Gives the reason if there is no formula.
+std::string Choose(FluidTable& table, const FluidData& fluid, Property property,
+                   const Range& wanted) {
+    Choice choice = ChooseFormula(property, fluid, wanted);
+    if (choice.formula) {
+        table.formulas.emplace(property, std::move(*choice.formula));
+        return "";
     }
+    return choice.reason;
+}
+
+std::string Join(const std::string& first, const std::string& second) {
+    return first + (first.empty() || second.empty() ? "" : "; ") + second;
 }
 
 // The range in which all of the properties hold; nothing if one is missing.
@@ -84,29 +94,36 @@ void Drop(FluidTable& table, std::initializer_list<Property> properties) {
 }
 
 void DesignLiquid(FluidTable& table, const FluidData& fluid, const Range& wanted) {
-    Choose(table, fluid, Property::LiquidDensity, wanted);
-    Choose(table, fluid, Property::LiquidViscosity, wanted);
+    table.noLiquid = Join(Choose(table, fluid, Property::LiquidDensity, wanted),
+                          Choose(table, fluid, Property::LiquidViscosity, wanted));
     table.liquid = CommonRange(
         table, {Property::VaporPressure, Property::LiquidDensity, Property::LiquidViscosity},
         wanted);
     if (!table.liquid) {
+        table.noLiquid = table.noLiquid.empty() ? kNoCommonRange : table.noLiquid;
         Drop(table, {Property::LiquidDensity, Property::LiquidViscosity});
     }
 }
 
 void DesignVapor(FluidTable& table, const FluidData& fluid, double lowest) {
     const Range wanted = WantedVaporRange(fluid, lowest);
-    if (wanted.Span() <= 0.0) {
-        return;
+    for (const Property property : {Property::GasViscosity, Property::GasHeatCapacity}) {
+        if (wanted.Span() > 0.0 || GasDataEnd(fluid, property) == 0.0) {
+            table.noVapor = Join(table.noVapor, Choose(table, fluid, property, wanted));
+        }
     }
-    Choose(table, fluid, Property::GasViscosity, wanted);
-    Choose(table, fluid, Property::GasHeatCapacity, wanted);
     table.vapor = CommonRange(table, {Property::GasViscosity, Property::GasHeatCapacity}, wanted);
-    if (!table.vapor) {
-        Drop(table, {Property::GasViscosity, Property::GasHeatCapacity, Property::DewPressure});
-        return;
+    if (table.vapor) {
+        table.vaporDensity = ChooseVaporDensity(fluid, *table.vapor);
+        if (table.vaporDensity.maxPressure <= 0.0) {
+            table.vapor.reset();
+            table.noVapor = table.vaporDensity.reason;
+        }
     }
-    table.vaporDensity = ChooseVaporDensity(fluid, *table.vapor);
+    if (!table.vapor) {
+        table.noVapor = table.noVapor.empty() ? kNoCommonRange : table.noVapor;
+        Drop(table, {Property::GasViscosity, Property::GasHeatCapacity, Property::DewPressure});
+    }
 }
 
 std::vector<Point> PointsNotFittedTo(const ChosenFormula& formula, const CheckPoints& check) {
@@ -148,19 +165,16 @@ FluidTable DesignFluid(const FluidData& fluid) {
     table.constants = fluid.constants;
     const Range wantedLiquid = WantedLiquidRange(fluid);
     const Range saturation{wantedLiquid.min, fluid.constants.criticalTemperature};
-    Choose(table, fluid, Property::VaporPressure, saturation);
+    const std::string noPressure = Choose(table, fluid, Property::VaporPressure, saturation);
     Choose(table, fluid, Property::DewPressure, saturation);
     const ChosenFormula* const vaporPressure = Find(table, Property::VaporPressure);
     if (vaporPressure == nullptr) {
-        throw DesignError(table.name + ": no vapor pressure, neither published nor to fit to");
-    }
-    if (vaporPressure->range.max < 0.98 * fluid.constants.criticalTemperature) {
-        throw DesignError(table.name + ": the vapor pressure ends far below the critical point");
+        throw DesignError(noPressure);
     }
     DesignLiquid(table, fluid, wantedLiquid);
     DesignVapor(table, fluid, table.liquid ? table.liquid->min : vaporPressure->range.min);
     if (!table.liquid && !table.vapor) {
-        throw DesignError(table.name + ": neither a complete liquid nor a complete vapor");
+        throw DesignError(Join(table.noLiquid, table.noVapor));
     }
     MeasureAgain(table, fluid);
     return table;

@@ -10,7 +10,7 @@
 
 namespace hydrofacts::tables {
 
-/// A fluid that cannot be made into a sound table; what() names the fluid and the reason.
+/// A fluid that cannot be made into a sound table; what() is the reason.
 class DesignError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
@@ -36,6 +36,8 @@ struct FluidTable {
     std::optional<Range> liquid;  ///< Absent: no liquid formulas.
     std::optional<Range> vapor;   ///< Absent: no vapor formulas.
     VaporDensity vaporDensity;
+    std::string noLiquid;  ///< Why there are no liquid formulas; empty if there are.
+    std::string noVapor;   ///< Why there are no vapor formulas; empty if there are.
 };
 
 /// Chooses formulas, equation of state and ranges of a fluid. Throws DesignError.

@@ -17,6 +17,12 @@ constexpr double kOuterWeight = 0.05;
 // Weight of the points that a gas fit takes from the published row, above the check data.
 constexpr double kHandbookWeight = 0.3;
 constexpr int kHandbookPoints = 24;
+// A published row is used if it is sound over this part of its range.
+constexpr double kLeastSound = 0.4;
+// How far a published vapor pressure may miss the critical pressure, and up to which parts of the
+// critical temperature it may still be followed when it misses by more.
+constexpr double kCriticalTolerance = 0.04;
+constexpr double kFollowRowTo[] = {0.9, 0.8, 0.7};
 // The triple point of water lies this far above 0 degrees Celsius, with room for rounding. K.
 constexpr double kHair = 0.025;
 
@@ -32,23 +38,137 @@ Range Overlap(const Range& a, const Range& b) {
     return {std::max(a.min, b.min), std::min(a.max, b.max)};
 }
 
-// The row with the widest share of the wanted range among those that the format can carry.
-std::optional<ChosenFormula> FromHandbookRows(Property property, const FluidData& fluid,
-                                              const Range& wanted) {
-    std::optional<ChosenFormula> best;
+std::string Kelvins(const Range& range) {
+    return RoundedNumber(range.min, 5) + " to " + RoundedNumber(range.max, 5) + " K";
+}
+
+// What is left of a row's range.
+Range WithoutWithheld(Property property, const FluidData& fluid, Range range) {
+    const auto found = fluid.withheld.find(property);
+    if (found == fluid.withheld.end() || found->second.maxTemperature <= range.min ||
+        found->second.minTemperature >= range.max) {
+        return range;
+    }
+    if (found->second.minTemperature > range.min) {
+        range.max = found->second.minTemperature;
+    } else {
+        range.min = std::min(found->second.maxTemperature, range.max);
+    }
+    return range;
+}
+
+// The row with the widest share of the wanted range among those that the format can carry, where
+// it is sound.
+Choice FromHandbookRows(Property property, const FluidData& fluid, const Range& wanted) {
+    const std::string name = PropertyName(property);
+    Choice best{{}, "no " + name + ": there are no data"};
     const auto rows = fluid.handbook.find(property);
     if (rows == fluid.handbook.end()) {
         return best;
     }
     for (const HandbookRow& row : rows->second) {
         const auto formula = FromHandbook(property, row, fluid.constants);
-        const Range range{row.minTemperature, row.maxTemperature};
-        if (formula && Overlap(range, wanted).Span() > 0.0 &&
-            (!best || Overlap(range, wanted).Span() > Overlap(best->range, wanted).Span())) {
-            best = ChosenFormula{*formula, range, row.source, false, {}, {}};
+        if (!formula) {
+            continue;
+        }
+        const Range published{row.minTemperature, row.maxTemperature};
+        const Range usable = WithoutWithheld(property, fluid, published);
+        if (usable.Span() <= 0.0) {
+            best.reason = "no " + name + ": the published row is withheld, " +
+                          fluid.withheld.at(property).reason;
+            continue;
+        }
+        const Range range = Overlap(usable, wanted);
+        if (range.Span() <= 0.0) {
+            best.reason = "no " + name + ": the published row holds from " + Kelvins(usable) +
+                          ", the table from " + Kelvins(wanted);
+            continue;
+        }
+        // Whether a vapor pressure is sound is a matter of the whole curve.
+        const Range sound =
+            IsSaturation(property) ? usable : SoundPart(property, *formula, fluid.constants, range);
+        if (sound.Span() < kLeastSound * range.Span()) {
+            best.reason = "no " + name + ": the published row goes the wrong way over most of " +
+                          Kelvins(range);
+            continue;
+        }
+        if (!best.formula ||
+            Overlap(sound, wanted).Span() > Overlap(best.formula->range, wanted).Span()) {
+            const bool whole = IsSaturation(property) || sound.Span() == range.Span();
+            best.formula =
+                ChosenFormula{*formula,
+                              whole ? usable : sound,
+                              row.source + (whole ? "" : ", less what goes the wrong way"),
+                              false,
+                              {},
+                              {}};
         }
     }
     return best;
+}
+
+// Whether state finding can use the vapor pressure up to the critical point, and the limit of the
+// compressibility above it.
+bool MeetsCriticalPoint(const CFormula& formula, const FluidConstants& constants,
+                        const Range& range) {
+    const double tc = constants.criticalTemperature;
+    const double atCritical = Evaluate(formula, constants, tc) / constants.criticalPressure;
+    return std::fabs(atCritical - 1.0) <= kCriticalTolerance &&
+           HasSoundShape(Property::VaporPressure, formula, constants, {range.min, tc});
+}
+
+// A vapor pressure that follows a published row up to a temperature and meets the critical point.
+std::optional<ChosenFormula> ThroughCriticalPoint(const ChosenFormula& row,
+                                                  const FluidConstants& constants, double upTo) {
+    constexpr Property kProperty = Property::VaporPressure;
+    const double tc = constants.criticalTemperature;
+    const Range follow{row.range.min, std::min(row.range.max, upTo)};
+    std::vector<WeightedPoint> points;
+    std::vector<Point> between;
+    // Even in 1/T, as the curve is.
+    for (int i = 0; i <= 2 * kHandbookPoints; ++i) {
+        const double share = static_cast<double>(i) / (2 * kHandbookPoints);
+        const double t = 1.0 / (1.0 / follow.min + share * (1.0 / follow.max - 1.0 / follow.min));
+        const double value = Evaluate(row.formula, constants, t);
+        if (i % 2 == 0) {
+            points.push_back({t, value, 1.0});
+        } else {
+            between.push_back({t, value});
+        }
+    }
+    points.push_back({tc, constants.criticalPressure, 1.0});
+    const auto fit = FitProperty(kProperty, constants, points, [&](const CFormula& formula) {
+        return MeetsCriticalPoint(formula, constants, follow);
+    });
+    if (!fit) {
+        return std::nullopt;
+    }
+    const Deviation deviation = Measure(*fit, constants, between, follow);
+    if (deviation.largest > LargestAccepted(kProperty)) {
+        return std::nullopt;
+    }
+    ChosenFormula result = row;
+    result.formula = *fit;
+    result.range.max = tc;
+    result.source = "fitted to the row of " + row.source + ", " + Kelvins(follow) +
+                    " (follows it to " + RoundedNumber(deviation.largest, 2) +
+                    "%), and to the critical point, which that row misses";
+    return result;
+}
+
+Choice ThroughCriticalPoint(const ChosenFormula& row, const FluidConstants& constants) {
+    const double tc = constants.criticalTemperature;
+    for (const double share : kFollowRowTo) {
+        if (auto result = ThroughCriticalPoint(row, constants, share * tc)) {
+            return {std::move(result), ""};
+        }
+    }
+    const double atCritical = Evaluate(row.formula, constants, tc) / constants.criticalPressure;
+    return {{},
+            "no vapor pressure: at the critical point the published row gives " +
+                RoundedNumber(atCritical, 3) +
+                " times the critical pressure, and no formula that meets it follows the row to " +
+                RoundedNumber(LargestAccepted(Property::VaporPressure), 2) + "%"};
 }
 
 // The points within the wanted range, and one more beyond each end, which holds the fit there.
@@ -138,42 +258,45 @@ bool LeavesGap(const Range& range, const Range& wanted) {
     return range.min > wanted.min + gap || range.max < wanted.max - gap;
 }
 
+// A row that is not sound, or leaves a part of the range out, gives way to any fit that is good.
+bool IsBetter(const ChosenFormula& fit, const ChosenFormula& row, Property property,
+              const FluidData& fluid, const Range& wanted) {
+    const double accepted = LargestAccepted(property);
+    const bool rowIsGood =
+        row.deviation.largest <= accepted && !LeavesGap(row.range, wanted) &&
+        HasSoundShape(property, row.formula, fluid.constants, Overlap(row.range, wanted));
+    return fit.deviation.largest < row.deviation.largest ||
+           (fit.deviation.largest <= accepted && !rowIsGood);
+}
+
 }  // namespace
 
 double LargestAccepted(Property property) {
     return property == Property::LiquidViscosity || property == Property::GasViscosity ? 5.0 : 2.0;
 }
 
-std::optional<ChosenFormula> ChooseFormula(Property property, const FluidData& fluid,
-                                           const Range& wanted) {
-    std::optional<ChosenFormula> row = FromHandbookRows(property, fluid, wanted);
+Choice ChooseFormula(Property property, const FluidData& fluid, const Range& wanted) {
+    Choice choice = FromHandbookRows(property, fluid, wanted);
+    std::optional<ChosenFormula>& row = choice.formula;
     const auto check = fluid.check.find(property);
-    if (check == fluid.check.end()) {
-        return row;
-    }
-    bool rowIsGood = false;
-    if (row) {
-        Judge(*row, fluid, check->second, wanted);
-        rowIsGood =
-            row->deviation.largest <= LargestAccepted(property) &&
-            HasSoundShape(property, row->formula, fluid.constants, Overlap(row->range, wanted));
-        if (rowIsGood && !LeavesGap(row->range, wanted) && !fluid.options.fitAlways) {
-            return row;
+    if (check != fluid.check.end()) {
+        if (row) {
+            Judge(*row, fluid, check->second, wanted);
+        }
+        std::optional<ChosenFormula> fit =
+            FitToCheckData(property, fluid, check->second, wanted, row);
+        if (fit) {
+            Judge(*fit, fluid, check->second, wanted);
+            if (!row || IsBetter(*fit, *row, property, fluid, wanted)) {
+                return {std::move(fit), ""};
+            }
         }
     }
-    std::optional<ChosenFormula> fit = FitToCheckData(property, fluid, check->second, wanted, row);
-    if (!fit) {
-        return row;
+    if (row && property == Property::VaporPressure &&
+        !MeetsCriticalPoint(row->formula, fluid.constants, row->range)) {
+        return ThroughCriticalPoint(*row, fluid.constants);
     }
-    Judge(*fit, fluid, check->second, wanted);
-    if (!row) {
-        return fit;
-    }
-    // A row that is not sound, or leaves a part of the range out, gives way to any fit that is
-    // sound.
-    const bool fitIsGood = fit->deviation.largest <= LargestAccepted(property);
-    const bool widens = fitIsGood && (!rowIsGood || LeavesGap(row->range, wanted));
-    return widens || fit->deviation.largest < row->deviation.largest ? fit : row;
+    return choice;
 }
 
 }  // namespace hydrofacts::tables

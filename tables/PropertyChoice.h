@@ -18,13 +18,18 @@ struct ChosenFormula {
     Deviation deviation;      ///< From check points that it was not fitted to.
 };
 
-/// Chooses the formula of a property for the range of temperatures that is wanted. The published
-/// row is taken unless it strays too far from the check data, leaves a good part of the range out,
-/// or the fluid asks for fits; then a fit to the check data takes its place where that is better.
-/// Nothing, if there is neither a row that the table format can carry nor check data enough for a
-/// fit.
-std::optional<ChosenFormula> ChooseFormula(Property property, const FluidData& fluid,
-                                           const Range& wanted);
+/// A formula, or the reason why there is none.
+struct Choice {
+    std::optional<ChosenFormula> formula;
+    std::string reason;
+};
+
+/// Chooses the formula of a property for the range of temperatures that is wanted: the published
+/// row or a fit to the check data, whichever lies closer to check points that the fit has not
+/// seen. A row is used only where it is sound. A row of the vapor pressure that does not meet the
+/// critical point is replaced by a formula fitted to it and to the critical point, if one follows
+/// it closely.
+Choice ChooseFormula(Property property, const FluidData& fluid, const Range& wanted);
 
 /// The deviation in percent up to which a published row is taken as it is.
 double LargestAccepted(Property property);

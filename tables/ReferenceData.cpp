@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "hydrofacts/formula/Constants.h"
 #include "tables/Csv.h"
 
 namespace hydrofacts::tables {
@@ -37,6 +38,19 @@ double PositiveNumber(const CsvRow& row, std::string_view column) {
     return value;
 }
 
+int ReadEquation(const CsvRow& row) {
+    const std::string& name = row.Text("equation_of_state");
+    if (name.empty()) {
+        return 0;
+    }
+    for (int equation = kIdealGas; equation <= kSoaveRedlichKwong; ++equation) {
+        if (name == EquationName(equation)) {
+            return equation;
+        }
+    }
+    row.Fail("equation_of_state", "'" + name + "' is no equation that is known");
+}
+
 FluidOptions ReadOptions(const CsvRow& row) {
     FluidOptions options;
     options.name = row.NonEmptyText("name");
@@ -52,17 +66,13 @@ FluidOptions ReadOptions(const CsvRow& row) {
         row.Fail("name", "holds a character that not every file name can");
     }
     options.cas = row.NonEmptyText("cas");
-    const std::string& fit = row.Text("fit");
-    if (fit != "poor" && fit != "always") {
-        row.Fail("fit", "must be 'poor' or 'always'");
-    }
-    options.fitAlways = fit == "always";
     options.densestAt = row.OptionalNumber("densest_at_K");
     options.liquidMin = row.OptionalNumber("liquid_min_K");
     options.liquidMax = row.OptionalNumber("liquid_max_K");
     options.vaporMin = row.OptionalNumber("vapor_min_K");
     options.vaporMax = row.OptionalNumber("vapor_max_K");
     options.vaporMaxPressure = row.OptionalNumber("vapor_max_kPa");
+    options.equation = ReadEquation(row);
     return options;
 }
 
@@ -73,7 +83,8 @@ FluidConstants ReadConstants(const CsvRow& row) {
             row.Number("acentric_factor"),
             row.OptionalNumber("triple_or_melting_temperature_K").value_or(0.0),
             row.NonEmptyText("source"),
-            0.0};
+            0.0,
+            row.OptionalNumber("normal_boiling_point_K").value_or(0.0)};
 }
 
 int ReadForm(const CsvRow& row) {
@@ -109,6 +120,21 @@ void ForRowsOf(FluidsByCas& fluids, const std::filesystem::path& file, Use use) 
             use(fluid->second, row);
         }
     }
+}
+
+void AddWithheldRange(FluidData& fluid, const CsvRow& row) {
+    for (const auto& [property, file] : kHandbookFiles) {
+        if (row.Text("property") + ".csv" != file) {
+            continue;
+        }
+        if (!fluid.handbook.contains(property)) {
+            row.Fail("property", "has no published row for this fluid");
+        }
+        fluid.withheld[property] = {PositiveNumber(row, "from_K"), PositiveNumber(row, "to_K"),
+                                    row.NonEmptyText("reason")};
+        return;
+    }
+    row.Fail("property", "'" + row.Text("property") + "' is no property that is known");
 }
 
 void SortByTemperature(std::vector<Point>& points) {
@@ -217,6 +243,19 @@ void ReadAllConstants(const std::filesystem::path& folder, FluidsByCas& fluids) 
 
 }  // namespace
 
+const char* EquationName(int equation) {
+    switch (equation) {
+        case kPengRobinson:
+            return "Peng-Robinson";
+        case kRedlichKwong:
+            return "Redlich-Kwong";
+        case kSoaveRedlichKwong:
+            return "Soave-Redlich-Kwong";
+        default:
+            return "ideal gas";
+    }
+}
+
 std::vector<FluidData> ReadReferenceData(const std::filesystem::path& folder) {
     std::vector<std::string> order;
     FluidsByCas fluids = ReadFluidList(folder, order);
@@ -226,6 +265,7 @@ std::vector<FluidData> ReadReferenceData(const std::filesystem::path& folder) {
             fluid.handbook[p].push_back(ReadHandbookRow(row));
         });
     }
+    ForRowsOf(fluids, folder / "withheld.csv", AddWithheldRange);
     ForRowsOf(fluids, folder / "check_saturation.csv", AddSaturationRow);
     ForRowsOf(fluids, folder / "check_gas.csv", AddGasRow);
     const std::vector<CsvRow> fine = ReadCsv(folder / "check_water_fine.csv");

@@ -46,10 +46,10 @@ struct HandbookRow {
 struct FluidOptions {
     std::string name;
     std::string cas;
-    bool fitAlways = false;  ///< Fit to the check data even where the handbook row is good enough.
     std::optional<double> densestAt;                             ///< K
     std::optional<double> liquidMin, liquidMax;                  ///< K
     std::optional<double> vaporMin, vaporMax, vaporMaxPressure;  ///< K, K, kPa
+    int equation = 0;  ///< Of state, to take in place of the usual one; 0: none is asked for.
 };
 
 struct FluidConstants {
@@ -61,6 +61,14 @@ struct FluidConstants {
     std::string source;
     double densestAt =
         0.0;  ///< K; below it the liquid expands when it is cooled. 0: no such thing.
+    double boilingTemperature = 0.0;  ///< K, at one atmosphere. 0: not known
+};
+
+/// A range of temperatures in which a published row must not be used.
+struct WithheldRange {
+    double minTemperature;  ///< K
+    double maxTemperature;  ///< K
+    std::string reason;
 };
 
 /// Check points of one property: a fit uses the first list and is judged by the second.
@@ -75,9 +83,13 @@ struct FluidData {
     FluidOptions options;
     FluidConstants constants;
     std::map<Property, std::vector<HandbookRow>> handbook;
+    std::map<Property, WithheldRange> withheld;
     std::map<Property, CheckPoints> check;
     std::vector<GasState> gasStates;
 };
+
+/// The name of an equation of state, by its type in a table.
+const char* EquationName(int equation);
 
 /// Reads the folder of CSV files. Throws InputError.
 std::vector<FluidData> ReadReferenceData(const std::filesystem::path& folder);

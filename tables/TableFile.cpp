@@ -19,19 +19,6 @@ constexpr const char* kLevels = "1\t7";
 
 bool IsPlain(char c) { return c >= ' ' && c <= '~'; }
 
-const char* EquationName(int equation) {
-    switch (equation) {
-        case kPengRobinson:
-            return "Peng-Robinson";
-        case kRedlichKwong:
-            return "Redlich-Kwong";
-        case kSoaveRedlichKwong:
-            return "Soave-Redlich-Kwong";
-        default:
-            return "ideal gas";
-    }
-}
-
 // "* Against 12 points of SOURCE that the fit has not seen".
 std::string Against(const std::string& source, std::size_t count, const char* what, bool fitted) {
     return fmt::format("* Against {} {}{} of {}{}", count, what, count == 1 ? "" : "s", source,
@@ -67,12 +54,12 @@ class TableWriter {
   private:
     void Line(const std::string& line, std::size_t longest = kLongestLine) {
         if (line.size() > longest) {
-            throw DesignError(m_table.name + ": a line of the table is too long: " + line);
+            throw DesignError("a line of the table is too long: " + line);
         }
         // The data are UTF-8, tables Windows-1252: what is the same in both is safe.
         if (!std::all_of(line.begin(), line.end(),
                          [](char c) { return c == '\t' || IsPlain(c); })) {
-            throw DesignError(m_table.name + ": a line of the table is not plain ASCII: " + line);
+            throw DesignError("a line of the table is not plain ASCII: " + line);
         }
         m_text += line;
         m_text += "\r\n";
@@ -114,7 +101,9 @@ class TableWriter {
             return;
         }
         const Deviation& deviation = formula.deviation;
-        if (deviation.count > 0) {
+        if (deviation.count == 0) {
+            Line("* Not compared: there are no check data in its range.");
+        } else {
             Line(fmt::format("{}, {}: {}.",
                              Against(formula.checkSource, deviation.count, "point", formula.fitted),
                              Kelvins(deviation.range), Figures(deviation)));
@@ -153,7 +142,7 @@ class TableWriter {
         Line(fmt::format("* Vapor density: {}{}{}.", EquationName(vapor.equation),
                          vapor.reason.empty() ? "" : "; ", vapor.reason));
         if (vapor.checkSource.empty()) {
-            Line("* Not compared: there are no check data.");
+            Line("* Not compared: there are no check data in its range.");
         } else {
             Line(fmt::format("{}, {}: {} (the largest at {} kPa).",
                              Against(vapor.checkSource, vapor.deviation.count, "state", false),

@@ -88,16 +88,25 @@ CFormula EquationFormula(int equation, const FluidConstants& constants) {
 }
 
 VaporDensity ChooseVaporDensity(const FluidData& fluid, const Range& range) {
+    const int wanted = fluid.options.equation;
+    const int usual = wanted == 0 ? kPengRobinson : wanted;
     VaporDensity best;
-    best.equation = kPengRobinson;
-    if (fluid.gasStates.empty()) {
+    best.equation = usual;
+    const bool checked =
+        std::any_of(fluid.gasStates.begin(), fluid.gasStates.end(),
+                    [&](const GasState& state) { return range.Holds(state.temperature); });
+    if (!checked) {
         best.maxPressure = fluid.options.vaporMaxPressure.value_or(
             kUncheckedLimit * fluid.constants.criticalPressure);
+    } else {
+        best = Assess(usual, fluid, range);
+    }
+    if (wanted != 0) {
+        best.reason = "Peng-Robinson is poor for this gas far above its critical point";
         return best;
     }
-    best = Assess(kPengRobinson, fluid, range);
     for (const int type : {kSoaveRedlichKwong, kRedlichKwong}) {
-        VaporDensity other = Assess(type, fluid, range);
+        VaporDensity other = checked ? Assess(type, fluid, range) : best;
         if (other.maxPressure >= best.maxPressure &&
             other.deviation.largest < 0.5 * best.deviation.largest) {
             other.reason = "Peng-Robinson is off by up to " +
@@ -106,7 +115,8 @@ VaporDensity ChooseVaporDensity(const FluidData& fluid, const Range& range) {
         }
     }
     if (best.maxPressure <= 0.0) {
-        throw DesignError(fluid.options.name + ": no equation of state is good enough");
+        best.reason = "no equation of state is within " + RoundedNumber(kLargestDeviation, 2) +
+                      "% of the gas density, even at low pressure";
     }
     return best;
 }
