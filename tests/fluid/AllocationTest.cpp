@@ -14,6 +14,8 @@ namespace {
 
 std::atomic<long> allocations{0};
 
+// NOLINTBEGIN(cppcoreguidelines-no-malloc, cppcoreguidelines-owning-memory): these are what
+// operator new is made of
 void* Count(std::size_t size) {
     ++allocations;
     if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
@@ -22,6 +24,7 @@ void* Count(std::size_t size) {
 
 // Apart, since the compiler takes an inlined call of free for a mismatch.
 [[gnu::noinline]] void Release(void* memory) { std::free(memory); }
+// NOLINTEND(cppcoreguidelines-no-malloc, cppcoreguidelines-owning-memory)
 
 }  // namespace
 

@@ -59,7 +59,7 @@ class Library {
   public:
     explicit Library(const fs::path& file)
         : handle_(::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL)) {
-        EXPECT_NE(handle_, nullptr) << ::dlerror();
+        EXPECT_NE(handle_, nullptr);
     }
     ~Library() { ::dlclose(handle_); }
     template <typename Function>
