@@ -22,6 +22,7 @@ constexpr double kLeastSound = 0.4;
 // How far a published vapor pressure may miss the critical pressure, and up to which parts of the
 // critical temperature it may still be followed when it misses by more.
 constexpr double kCriticalTolerance = 0.04;
+constexpr double kWorstMiss = 2.5;  // times the critical pressure, or its part
 constexpr double kFollowRowTo[] = {0.9, 0.8, 0.7};
 // The triple point of water lies this far above 0 degrees Celsius, with room for rounding. K.
 constexpr double kHair = 0.025;
@@ -158,17 +159,22 @@ std::optional<ChosenFormula> ThroughCriticalPoint(const ChosenFormula& row,
 
 Choice ThroughCriticalPoint(const ChosenFormula& row, const FluidConstants& constants) {
     const double tc = constants.criticalTemperature;
+    const double atCritical = Evaluate(row.formula, constants, tc) / constants.criticalPressure;
+    const bool near = atCritical * kWorstMiss > 1.0 && atCritical < kWorstMiss;
     for (const double share : kFollowRowTo) {
+        if (!near) {
+            break;
+        }
         if (auto result = ThroughCriticalPoint(row, constants, share * tc)) {
             return {std::move(result), ""};
         }
     }
-    const double atCritical = Evaluate(row.formula, constants, tc) / constants.criticalPressure;
+    const std::string follows = ", and no formula that meets it follows the row to " +
+                                RoundedNumber(LargestAccepted(Property::VaporPressure), 2) + "%";
     return {{},
             "no vapor pressure: at the critical point the published row gives " +
-                RoundedNumber(atCritical, 3) +
-                " times the critical pressure, and no formula that meets it follows the row to " +
-                RoundedNumber(LargestAccepted(Property::VaporPressure), 2) + "%"};
+                RoundedNumber(atCritical, 3) + " times the critical pressure" +
+                (near ? follows : "")};
 }
 
 // The points within the wanted range, and one more beyond each end, which holds the fit there.

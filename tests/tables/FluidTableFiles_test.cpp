@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "InstalledTables.h"
+#include "tables/Csv.h"
 
 namespace {
 
@@ -33,12 +34,29 @@ TEST(FluidTableFiles, CommonFluidsAreInstalled) {
     const std::vector<std::string> names = InstalledFluids();
     for (const char* const name :
          {"Air", "Ammonia", "Carbon dioxide", "Ethanol", "Methane", "Methanol", "n-Butane",
-          "Nitrogen", "Oxygen", "Propane", "R-134a", "Toluene", "Water"}) {
+          "Nitrogen", "Oxygen", "Propane", "R-134a", "R-410A", "Toluene", "Water"}) {
         EXPECT_TRUE(std::find(names.begin(), names.end(), name) != names.end()) << name;
     }
     for (const std::string& name : names) {
         EXPECT_LE(name.size(), 30U) << name;
     }
+}
+
+TEST(FluidTableFiles, EveryFluidOfTheDataIsThereOrLeftOut) {
+    using hydrofacts::tables::ReadCsv;
+    const std::filesystem::path folder = HYDROFACTS_FLUID_DATA;
+    std::vector<std::string> expected;
+    for (const auto& row : ReadCsv(folder / "fluids.csv")) {
+        expected.push_back(row.Text("name"));
+    }
+    EXPECT_EQ(ReadCsv(folder / "constants.csv").size(), expected.size());
+    for (const auto& row : ReadCsv(folder / "left_out.csv")) {
+        if (row.Text("part") == "table") {
+            std::erase(expected, row.Text("name"));
+        }
+    }
+    std::sort(expected.begin(), expected.end());
+    EXPECT_EQ(expected, InstalledFluids());
 }
 
 TEST(FluidTableFiles, AreWholeLinesOfPlainTextThatEveryReaderTakes) {

@@ -23,6 +23,15 @@ class TableFluid : public CFluid {
     }
 
     bool Has(FLUIDSTATE state) { return FormulasExist(state); }
+
+    /// Puts another equation of state in, with the fluid's own constants.
+    void UseEquation(int type) {
+        std::string record = "P5\t" + std::to_string(type) + "\t" +
+                             std::to_string(m_formulas[SLOT_VAPOR_DENSITY].m_coefficients[0]);
+        EXPECT_EQ(0, m_formulas[SLOT_VAPOR_DENSITY].LoadFormula(SLOT_VAPOR_DENSITY, record.data(),
+                                                                m_criticalTemp, m_criticalPres));
+    }
+
     double LiquidMin() const { return m_liquidMinTemp; }
     double LiquidMax() const { return m_liquidMaxTemp; }
     double VaporMin() const { return m_vaporMinTemp; }
@@ -113,6 +122,12 @@ TEST(FluidTables, LiquidsAgreeWithTheHandbooks) {
         {"n-Butane", 272.66, 101.325, 601.3, 0.5}, {"R-134a", 298.15, 665.4, 1206.7, 0.5},
         {"Methanol", 337.7, 101.325, 0.0, 1.0},    {"Methanol", 293.15, 0.0, 791.4, 1.0},
         {"Ethanol", 351.44, 101.325, 0.0, 1.0},    {"Ethanol", 293.15, 0.0, 789.3, 0.5},
+        {"Ethane", 184.57, 101.325, 543.8, 1.0},   {"Propylene", 225.53, 101.325, 609.0, 0.5},
+        {"Argon", 87.302, 101.325, 1395.4, 0.5},   {"Chlorine", 239.11, 101.325, 0.0, 1.5},
+        {"R-123", 300.97, 101.325, 0.0, 0.5},      {"R-125", 225.06, 101.325, 0.0, 0.5},
+        {"Hydrogen", 20.369, 101.325, 70.8, 1.0},  {"Hydrogen sulfide", 212.85, 101.325, 0.0, 1.0},
+        {"Hexane", 341.87, 101.325, 0.0, 1.0},     {"Chloroform", 298.15, 0.0, 1478.8, 1.0},
+        {"Benzene", 293.15, 0.0, 876.5, 0.5},      {"Ethylene glycol", 293.15, 0.0, 1113.5, 1.0},
         {"Toluene", 383.75, 101.325, 0.0, 0.5},    {"Toluene", 293.15, 0.0, 866.8, 0.5},
     };
     for (const Row& row : kRows) {
@@ -135,7 +150,8 @@ TEST(FluidTables, LiquidViscosityAgreesWithTheHandbooks) {
         double viscosity;
     };
     for (const Row& row : {Row{"Methanol", 0.544}, Row{"Ethanol", 1.074}, Row{"Toluene", 0.560},
-                           Row{"R-134a", 0.195}}) {
+                           Row{"R-134a", 0.195}, Row{"Benzene", 0.604}, Row{"Hexane", 0.300},
+                           Row{"1-Butanol", 2.54}, Row{"Ethylene glycol", 16.1}}) {
         TableFluid fluid(row.name);
         ASSERT_EQ(FLUID_LIQUID, fluid.At(298.15, 800.0)) << row.name;
         ExpectWithin(5.0, row.viscosity, fluid.GetViscosity(), row.name);
@@ -173,88 +189,185 @@ TEST(FluidTables, AirHasABandOfTwoPhases) {
     EXPECT_EQ(FLUID_VAPOR, air.At(100.0, 540.0));
 }
 
-TEST(FluidTables, StatesFillTheRangesAndEndWithThem) {
+/// Calls use(temperature) at temperatures over a range, both ends included. The steps are not round,
+/// since exactly at the critical temperature a pure fluid has no state.
+template <class Use>
+void Over(double from, double to, Use use) {
+    constexpr int kSteps = 40;
+    use(from);
+    for (int i = 1; i < kSteps; ++i) {
+        use(from + (to - from) * (i + 0.0123) / kSteps);
+    }
+    use(to);
+}
+
+/// Calls use(fluid) for each installed fluid, loaded.
+template <class Use>
+void ForEachFluid(Use use) {
     for (const std::string& name : InstalledFluids()) {
         SCOPED_TRACE(name);
         TableFluid fluid(name);
         fluid.At(300.0, 100.0);
-        const double tc = fluid.GetCriticalTemp();
+        use(fluid, name);
+        if (::testing::Test::HasFailure()) {
+            FAIL() << "at " << name << "; the fluids behind it are not tested";
+        }
+    }
+}
+
+/// The highest pressure of a vapor at a temperature, kPa.
+double VaporEnd(const TableFluid& fluid, double kelvin) {
+    return kelvin < fluid.GetCriticalTemp()
+               ? std::min(fluid.VaporMaxPressure(), 0.99 * fluid.DewPressure(kelvin))
+               : fluid.VaporMaxPressure();
+}
+
+TEST(FluidTables, StatesFillTheRangesAndEndWithThem) {
+    ForEachFluid([](TableFluid& fluid, const std::string&) {
         if (fluid.Has(FLUID_LIQUID)) {
-            const double middle = 0.5 * (fluid.LiquidMin() + fluid.LiquidMax());
-            for (const double t : {fluid.LiquidMin(), middle, fluid.LiquidMax()}) {
-                const double pressure = 1.01 * fluid.BubblePressure(t) + 1e-6;
-                EXPECT_EQ(FLUID_LIQUID, fluid.At(t, pressure)) << t;
-                EXPECT_EQ(1, fluid.SetPointIsValid(t, pressure)) << t;
-            }
+            Over(fluid.LiquidMin(), fluid.LiquidMax(), [&](double t) {
+                const double pressure = 1.01 * fluid.BubblePressure(t);
+                ASSERT_EQ(FLUID_LIQUID, fluid.At(t, pressure)) << t;
+                ASSERT_EQ(1, fluid.SetPointIsValid(t, pressure)) << t;
+            });
             EXPECT_EQ(FLUID_NONE, fluid.At(fluid.LiquidMin() - 0.01, 100.0));
         }
         if (fluid.Has(FLUID_VAPOR)) {
-            for (double t = fluid.VaporMin(); t <= fluid.VaporMax(); t += 7.3) {
-                const double end =
-                    t < tc ? std::min(fluid.VaporMaxPressure(), 0.99 * fluid.DewPressure(t))
-                           : fluid.VaporMaxPressure();
+            Over(fluid.VaporMin(), fluid.VaporMax(), [&](double t) {
+                const double end = VaporEnd(fluid, t);
                 for (const double pressure : {0.01 * end, 0.5 * end, end}) {
-                    EXPECT_EQ(FLUID_VAPOR, fluid.At(t, pressure)) << t << ' ' << pressure;
-                    EXPECT_EQ(1, fluid.SetPointIsValid(t, pressure)) << t << ' ' << pressure;
+                    ASSERT_EQ(FLUID_VAPOR, fluid.At(t, pressure)) << t << ' ' << pressure;
+                    ASSERT_EQ(1, fluid.SetPointIsValid(t, pressure)) << t << ' ' << pressure;
                 }
-            }
+            });
             const double hot = fluid.VaporMax();
             EXPECT_EQ(FLUID_NONE, fluid.At(hot, 1.001 * fluid.VaporMaxPressure()));
             EXPECT_EQ(FLUID_NONE, fluid.At(hot + 0.01, 100.0));
         }
-    }
+    });
 }
 
-TEST(FluidTables, PropertiesGoTheWayOfNature) {
-    for (const std::string& name : InstalledFluids()) {
-        SCOPED_TRACE(name);
-        TableFluid fluid(name);
-        fluid.At(300.0, 100.0);
+// The state is what the saturation curves say, wherever the formulas of that state hold; inside the
+// ranges and around them.
+TEST(FluidTables, TheStateFoundIsTheOneThatIsValid) {
+    ForEachFluid([](TableFluid& fluid, const std::string&) {
+        const double tc = fluid.GetCriticalTemp();
+        const double pc = fluid.GetCriticalPres();
+        const bool hasLiquid = fluid.Has(FLUID_LIQUID);
+        const double first = hasLiquid ? fluid.LiquidMin() : fluid.VaporMin();
+        const double last = fluid.Has(FLUID_VAPOR) ? fluid.VaporMax() : fluid.LiquidMax();
+        Over(0.95 * first, 1.05 * last, [&](double t) {
+            const bool outside = (hasLiquid && t < first) || t > last;
+            for (double pressure = 1e-3 * pc; pressure < 2.0 * pc; pressure *= 1.7) {
+                FLUIDSTATE expected = FLUID_NONE;
+                if (t > tc || pressure < 0.999 * fluid.DewPressure(t)) {
+                    expected = FLUID_VAPOR;
+                } else if (pressure > 1.001 * fluid.BubblePressure(t) && pressure < pc) {
+                    expected = FLUID_LIQUID;
+                } else if (pressure < pc) {
+                    continue;  // On the curve or between the curves.
+                }
+                if (outside || fluid.SetPointIsValid(t, pressure, expected) == 0) {
+                    expected = FLUID_NONE;
+                }
+                ASSERT_EQ(expected, fluid.At(t, pressure)) << t << " K, " << pressure << " kPa";
+            }
+        });
+    });
+}
+
+TEST(FluidTables, LiquidsGoTheWayOfNature) {
+    ForEachFluid([](TableFluid& fluid, const std::string& name) {
         double lastPressure = 0.0;
         double lastDensity = INFINITY;
         double lastViscosity = INFINITY;
-        for (double t = fluid.LiquidMin(); t < fluid.LiquidMax(); t += 0.77) {
-            ASSERT_EQ(FLUID_LIQUID, fluid.At(t, 1.01 * fluid.BubblePressure(t)));
+        if (!fluid.Has(FLUID_LIQUID)) {
+            return;
+        }
+        Over(fluid.LiquidMin(), fluid.LiquidMax(), [&](double t) {
+            ASSERT_EQ(FLUID_LIQUID, fluid.At(t, 1.01 * fluid.BubblePressure(t))) << t;
             EXPECT_GT(fluid.GetVaporPres(), lastPressure) << t;
             EXPECT_LT(fluid.GetViscosity(t), lastViscosity) << t;
             EXPECT_GT(fluid.GetViscosity(t), 0.0) << t;
             // Water is densest at 4 degrees Celsius.
-            EXPECT_TRUE(fluid.GetDensity() < lastDensity || (name == "Water" && t < 277.2)) << t;
+            EXPECT_TRUE(fluid.GetDensity() < lastDensity || (name == "Water" && t < 282.2)) << t;
+            EXPECT_GT(fluid.GetDensity(), 0.0) << t;
             lastPressure = fluid.GetVaporPres();
             lastViscosity = fluid.GetViscosity(t);
             lastDensity = fluid.GetDensity();
+        });
+    });
+}
+
+TEST(FluidTables, VaporsGoTheWayOfNature) {
+    ForEachFluid([](TableFluid& fluid, const std::string&) {
+        double lastViscosity = 0.0;
+        if (!fluid.Has(FLUID_VAPOR)) {
+            return;
         }
-        double lastGasViscosity = 0.0;
-        for (double t = fluid.VaporMin(); t < fluid.VaporMax(); t += 3.1) {
+        Over(fluid.VaporMin(), fluid.VaporMax(), [&](double t) {
             const double pressure = 1e-4 * std::min(fluid.VaporMaxPressure(), fluid.DewPressure(t));
             ASSERT_EQ(FLUID_VAPOR, fluid.At(t, pressure)) << t;
-            EXPECT_GT(fluid.GetViscosity(t), lastGasViscosity) << t;
+            EXPECT_GT(fluid.GetViscosity(t), lastViscosity) << t;
             EXPECT_GT(fluid.GetSpHeat(t), 1.0) << t;
+            // A gas of one atom has 5/3, none has more.
+            EXPECT_LT(fluid.GetSpHeat(t), 1.68) << t;
             // A thin gas is ideal: p M / (R T).
             const double ideal = pressure * fluid.GetMolecularWt() / (8.3144 * t);
             ExpectWithin(0.1, ideal, fluid.GetDensity(), "density of a thin gas");
-            lastGasViscosity = fluid.GetViscosity(t);
+            lastViscosity = fluid.GetViscosity(t);
+        });
+    });
+}
+
+// Whatever the equation, the nearer to no pressure, the nearer to an ideal gas.
+TEST(FluidTables, CompressibilityTendsToOneWithEveryEquation) {
+    ForEachFluid([](TableFluid& fluid, const std::string&) {
+        if (!fluid.Has(FLUID_VAPOR)) {
+            return;
         }
-    }
+        for (int type = 1; type <= 4; ++type) {
+            fluid.UseEquation(type);
+            Over(fluid.VaporMin(), fluid.VaporMax(), [&](double t) {
+                const double end = std::min(fluid.VaporMaxPressure(), fluid.DewPressure(t));
+                EXPECT_NEAR(1.0, fluid.CalcZ(t, 1e-3 * end, true), 2e-3) << type << ' ' << t;
+                EXPECT_NEAR(1.0, fluid.CalcZ(t, 1e-6 * end, true), 3e-5) << type << ' ' << t;
+                EXPECT_EQ(1.0, fluid.CalcZ(t, 0.0, true)) << type << ' ' << t;
+            });
+        }
+    });
 }
 
 TEST(FluidTables, AreTheSameFluidInUSUnits) {
-    for (const std::string& name : InstalledFluids()) {
-        SCOPED_TRACE(name);
-        TableFluid metric(name);
-        metric.At(300.0, 100.0);
-        const bool liquid = metric.Has(FLUID_LIQUID);
-        const double kelvin =
-            liquid ? 0.5 * (metric.LiquidMin() + metric.LiquidMax()) : metric.VaporMax();
-        const double kPa = liquid ? 2.0 * metric.BubblePressure(kelvin) : 100.0;
-        const FLUIDSTATE state = metric.At(kelvin, kPa);
+    constexpr double kPsi = 6.894757293168361;  // kPa
+    ForEachFluid([](TableFluid& metric, const std::string& name) {
         TableFluid us(name, HF_DEG_F, HF_PSI);
-        EXPECT_EQ(state, us.At(kelvin * 1.8 - 459.67, kPa / 6.894757293168361));
-        ExpectWithin(0.1, metric.GetUDensity() / 16.018463, us.GetUDensity(), "density");
-        ExpectWithin(0.1, metric.GetViscosity(), us.GetViscosity(), "viscosity");
-        ExpectWithin(0.1, metric.GetUVaporPres() / 6.894757293168361, us.GetUVaporPres(),
-                     "vapor pressure");
-    }
+        const auto compare = [&](double kelvin, double kPa) {
+            const FLUIDSTATE state = metric.At(kelvin, kPa);
+            ASSERT_EQ(state, us.At(kelvin * 1.8 - 459.67, kPa / kPsi)) << kelvin << ' ' << kPa;
+            ASSERT_NE(FLUID_NONE, state) << kelvin << ' ' << kPa;
+            ExpectWithin(0.1, metric.GetUDensity() / 16.018463, us.GetUDensity(), "density");
+            ExpectWithin(0.1, metric.GetViscosity(), us.GetViscosity(), "viscosity");
+            if (state == FLUID_LIQUID) {
+                ExpectWithin(0.1, metric.GetUVaporPres() / kPsi, us.GetUVaporPres(),
+                             "vapor pressure");
+            } else {
+                ExpectWithin(0.1, metric.GetSpHeat(), us.GetSpHeat(), "ratio of specific heats");
+            }
+        };
+        for (const double share : {0.1, 0.3, 0.5, 0.7, 0.9}) {
+            if (metric.Has(FLUID_LIQUID)) {
+                const double t =
+                    metric.LiquidMin() + share * (metric.LiquidMax() - metric.LiquidMin());
+                compare(t, 1.02 * metric.BubblePressure(t));
+            }
+            if (metric.Has(FLUID_VAPOR)) {
+                const double t =
+                    metric.VaporMin() + share * (metric.VaporMax() - metric.VaporMin());
+                compare(t, 0.9 * VaporEnd(metric, t));
+            }
+        }
+    });
 }
 
 }  // namespace

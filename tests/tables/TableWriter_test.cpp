@@ -8,9 +8,11 @@
 #include <fstream>
 #include <sstream>
 
+#include "tables/CheckPoints.h"
 #include "tables/Checks.h"
 #include "tables/Csv.h"
 #include "tables/Fit.h"
+#include "tables/LeftOut.h"
 #include "tables/TableFile.h"
 #include "tables/VaporDensity.h"
 #include "tests/support/TempFolder.h"
@@ -188,6 +190,112 @@ TEST(Fit, GivesNothingForTooFewPointsOrIfNothingIsAccepted) {
                              [](const CFormula&) { return true; }));
     EXPECT_FALSE(FitProperty(Property::GasViscosity, constants, Sample(200, 480, 10, line),
                              [](const CFormula&) { return false; }));
+}
+
+FluidConstants Constants(double tc, double pc) { return {100.0, tc, pc, 0.3, 200.0, "", 0.0, 0.0}; }
+
+// A viscosity that is lowest at 300 K: ln = 900/t + 3 ln t, so 900/t^2 = 3/t there.
+TEST(Handbook, OnlyThePartOfARowThatGoesTheRightWayIsSound) {
+    const HandbookRow row{101, {-25.0, 900.0, 3.0, 0.0, 0.0}, 200.0, 400.0, "a book"};
+    const auto formula = FromHandbook(Property::LiquidViscosity, row, Constants(500.0, 4000.0));
+    ASSERT_TRUE(formula);
+    const Range sound =
+        SoundPart(Property::LiquidViscosity, *formula, Constants(500.0, 4000.0), {200.0, 350.0});
+    EXPECT_EQ(200.0, sound.min);
+    EXPECT_NEAR(300.0, sound.max, 0.4);
+}
+
+/// A fluid of which only a vapor pressure is known: exp(20 - 4000/t) Pa up to 450 K.
+FluidData OnlyVaporPressure(double criticalPressure) {
+    FluidData fluid;
+    fluid.constants = Constants(500.0, criticalPressure);
+    fluid.handbook[Property::VaporPressure] = {
+        {101, {20.0, -4000.0, 0.0, 0.0, 0.0}, 300.0, 500.0, "a book"}};
+    return fluid;
+}
+
+// At 500 K the row gives exp(12) Pa = 162.755 kPa.
+TEST(Choice, AVaporPressureMeetsTheCriticalPoint) {
+    struct Row {
+        double criticalPressure;
+        const char* source;
+    };
+    for (const Row& row : {Row{162.0, "a book"}, Row{190.0, "fitted to the row of a book, 300 to"},
+                           Row{150.0, "fitted to the row of a book, 300 to"}}) {
+        SCOPED_TRACE(row.criticalPressure);
+        const FluidData fluid = OnlyVaporPressure(row.criticalPressure);
+        const Choice choice = ChooseFormula(Property::VaporPressure, fluid, {300.0, 500.0});
+        ASSERT_TRUE(choice.formula);
+        EXPECT_THAT(choice.formula->source, ::testing::StartsWith(row.source));
+        const auto value = [&](double t) {
+            return Evaluate(choice.formula->formula, fluid.constants, t);
+        };
+        EXPECT_NEAR(row.criticalPressure, value(500.0), 0.021 * row.criticalPressure);
+        // exp(20 - 4000/330) and exp(20 - 4000/350) Pa
+        EXPECT_NEAR(2.6395, value(330.0), 0.02 * 2.6395);
+        EXPECT_NEAR(5.2794, value(350.0), 0.02 * 5.2794);
+    }
+    const Choice far = ChooseFormula(Property::VaporPressure, OnlyVaporPressure(1e6), {300, 500});
+    EXPECT_FALSE(far.formula);
+    EXPECT_THAT(far.reason, ::testing::HasSubstr("gives 0.000163 times the critical pressure"));
+}
+
+TEST(Choice, AWithheldRowIsCutOrNotUsed) {
+    FluidData fluid = OnlyVaporPressure(162.0);
+    fluid.handbook[Property::LiquidViscosity] = {
+        {101, {-11.0, 900.0, 0.0, 0.0, 0.0}, 200.0, 400.0, "a book"}};
+    const auto choose = [&](double from, double to) {
+        fluid.withheld[Property::LiquidViscosity] = {from, to, "two books differ"};
+        return ChooseFormula(Property::LiquidViscosity, fluid, {200.0, 450.0});
+    };
+    EXPECT_EQ(340.0, choose(340.0, 1000.0).formula->range.max);
+    EXPECT_EQ(250.0, choose(100.0, 250.0).formula->range.min);
+    EXPECT_EQ(400.0, choose(500.0, 600.0).formula->range.max);
+    const Choice nothing = choose(1.0, 1000.0);
+    EXPECT_FALSE(nothing.formula);
+    EXPECT_EQ("no liquid viscosity: the published row is withheld, two books differ",
+              nothing.reason);
+}
+
+TEST(LeftOut, TheListThatIsKeptMustSayWhatWasFound) {
+    const TempFolder folder;
+    const fs::path file = fs::path(folder.Path()) / "left_out.csv";
+    const std::vector<LeftOut> found = {{"A, b", "1-2-3", "liquid", "no data; none"}};
+    const auto message = [&](const std::string& text) -> std::string {
+        std::ofstream(file, std::ios::binary) << text;
+        try {
+            CheckLeftOut(file, found);
+        } catch (const InputError& error) {
+            return error.what();
+        }
+        return "";
+    };
+    using ::testing::HasSubstr;
+    const std::string heading = "name,cas,part,reason\n";
+    EXPECT_EQ("", message(heading + "\"A, b\",1-2-3,liquid,no data; none\n"));
+    EXPECT_EQ("", message("name,cas,part,reason\r\n\"A, b\",1-2-3,liquid,no data; none\r\n"));
+    EXPECT_THAT(message(heading), HasSubstr("left_out.csv:2: does not say what was found: \"A, b"));
+    EXPECT_THAT(message(heading + "\"A, b\",1-2-3,liquid,no data\n"), HasSubstr(":2: does not"));
+    EXPECT_THAT(message(heading + "\"A, b\",1-2-3,liquid,no data; none\nC,1,table,x\n"),
+                HasSubstr(":3: does not say what was found: no more is left out"));
+    EXPECT_THAT(message(""), HasSubstr(":1: does not"));
+}
+
+// Methane: 25 temperatures, 13 of them fitted to and 12 left to judge the fit. The first, 90.694 K,
+// lies a hair below the table.
+TEST(CheckPoints, SayWhichOfThemTheFitHasSeen) {
+    const FluidData& methane = Fluid("Methane");
+    const std::string text = CheckPointLines(DesignFluid(methane), methane);
+    std::map<std::string, int> counts;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        EXPECT_THAT(line, ::testing::StartsWith("Methane,"));
+        if (line.find("vapor_pressure,liquid") != std::string::npos) {
+            ++counts[line.find(",fit,") != std::string::npos ? "fit" : "check"];
+        }
+    }
+    EXPECT_EQ(12, counts["fit"]);
+    EXPECT_EQ(12, counts["check"]);
 }
 
 // PR at the critical point: Tc = 190.564 K, Pc = 4599 kPa, acentric factor 0.0115, by hand.
