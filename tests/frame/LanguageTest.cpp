@@ -22,7 +22,7 @@ std::string Message(const CLanguage& language, unsigned id, int size = 160) {
     buffer[size] = '#';
     const int length = language.String(nullptr, id, buffer, size);
     EXPECT_EQ(buffer[size], '#');
-    const std::string text = size > 0 ? buffer : "";
+    std::string text = size > 0 ? buffer : "";
     EXPECT_EQ(text.size(), static_cast<std::size_t>(length));
     return text;
 }
@@ -56,7 +56,7 @@ TEST_F(Language, ResourceHasItsFixedSizeAndForm) {
         static_cast<const char*>(LockResource(LoadResource(module, resource))), 3495);
     EXPECT_EQ(text.find_first_not_of("\r\n"), 2U * 53U);
     int rows = 0;
-    for (std::size_t start = 2 * 53; start < text.size(); ++rows) {
+    for (std::size_t start = 2UL * 53UL; start < text.size(); ++rows) {
         const std::size_t end = text.find("\r\n", start);
         ASSERT_NE(end, std::string_view::npos);
         const std::string_view row = text.substr(start, end - start);

@@ -13,8 +13,8 @@ TEST(Text, CapitalsAreThoseOfWindows1252) {
     const std::string caseless = "@[`{\x83\xAA\xB5\xBA\xDF\xF7 AZ\xC0\xDE";
     for (std::size_t i = 0; i < small.size(); ++i) {
         const auto code = static_cast<unsigned char>(small[i]);
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): a character in place of a pointer is Win32's
-        // own
+        // A character in place of a pointer is Win32's own.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr)
         const LPSTR capital = CharUpperA(reinterpret_cast<LPSTR>(UINT_PTR{code}));
         EXPECT_EQ(reinterpret_cast<UINT_PTR>(capital), static_cast<unsigned char>(capitals[i]));
     }
