@@ -50,6 +50,10 @@ std::string Utf8FromNarrow(std::string_view text) { return Narrow(Wide(text, CP_
 
 std::filesystem::path PathFromUtf8(std::string_view text) { return Wide(text, CP_UTF8); }
 
+std::string NarrowFromPath(const std::filesystem::path& path) {
+    return Narrow(path.native(), CP_ACP);
+}
+
 std::string Utf8FromPath(const std::filesystem::path& path) {
     return Narrow(path.native(), CP_UTF8);
 }
@@ -69,6 +73,8 @@ std::string Utf8FromNarrow(std::string_view text) {
 }
 
 std::filesystem::path PathFromUtf8(std::string_view text) { return text; }
+
+std::string NarrowFromPath(const std::filesystem::path& path) { return path.native(); }
 
 std::string Utf8FromPath(const std::filesystem::path& path) {
     return Utf8FromNarrow(path.native());

@@ -23,6 +23,10 @@ std::string Utf8FromNarrow(std::string_view text);
 /// A path for the standard library.
 std::filesystem::path PathFromUtf8(std::string_view text);
 
+/// A path or name from the standard library, for the library; empty if the platform can't express
+/// it.
+std::string NarrowFromPath(const std::filesystem::path& path);
+
 /// A path or name from the standard library.
 std::string Utf8FromPath(const std::filesystem::path& path);
 

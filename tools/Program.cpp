@@ -22,6 +22,7 @@ constexpr const char* kFooter =
 
 Exit status:
   0  done
+  1  a table that was checked can't be used or is misread
   2  refused: the arguments or the tables can't be used
   3  a fluid has no state at the set point, or an elevation is outside the standard atmosphere)";
 
@@ -31,6 +32,7 @@ void AddCommands(CLI::App& app, Options& options) {
     AddConvertCommand(app, options);
     AddUnitsCommand(app, options);
     AddElevationCommand(app, options);
+    AddCheckCommand(app, options);
 }
 
 // "-.5" looks like an option to the parser, "-0.5" like the number that it is.

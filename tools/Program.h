@@ -25,6 +25,7 @@ void AddSetPointOptions(CLI::App& app, SetPointOptions& setPoint, bool required)
 void AddFluidsCommand(CLI::App& app, Options& options);
 void AddFluidCommand(CLI::App& app, Options& options);
 void AddConvertCommand(CLI::App& app, Options& options);
+void AddCheckCommand(CLI::App& app, Options& options);
 void AddUnitsCommand(CLI::App& app, Options& options);
 void AddElevationCommand(CLI::App& app, Options& options);
 
