@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <span>
 
 #include "hydrofacts/formula/Constants.h"
 #include "tables/Numbers.h"
@@ -127,7 +128,11 @@ class TableWriter {
         WriteDeviation(property, found->second);
         const CFormula& formula = found->second.formula;
         std::string record = fmt::format("P{}\t{}", number, formula.m_type);
-        for (const double coefficient : formula.m_coefficients) {
+        // Coefficients of zero at the end may be left out; a library of tables loads faster
+        // without.
+        const std::span<const double> all = formula.m_coefficients;
+        const auto last = std::find_if(all.rbegin(), all.rend(), [](double c) { return c != 0.0; });
+        for (const double coefficient : all.first(static_cast<std::size_t>(all.rend() - last))) {
             record += fmt::format("\t{}", ExactNumber(coefficient));
         }
         Line(record);
