@@ -1,0 +1,134 @@
+// Loading a pipe schedule against reading the same file twice, as its two steps do, and once;
+// listing tables in directories of growing size.
+
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "bench/Ratios.h"
+#include "hydrofacts/hydrofacts.h"
+
+namespace {
+
+std::vector<std::string> Cut(char* list) {
+    const std::unique_ptr<char[]> owned(list);
+    std::vector<std::string> names;
+    for (char* name = std::strtok(list, "\t"); name != nullptr; name = std::strtok(nullptr, "\t")) {
+        names.emplace_back(name);
+    }
+    return names;
+}
+
+struct Schedule {
+    std::string directory;
+    std::string material;
+    std::string name;
+    std::size_t sizes = 0;
+};
+
+// The schedule with the most sizes among the installed tables.
+const Schedule& Largest() {
+    static const Schedule largest = [] {
+        constexpr int kRoom = 10000;
+        char directory[MAX_PATH];
+        GetDirectory(DIR_TABLES, directory, 0);
+        CPipeTableList installed(HF_US);
+        Schedule found;
+        for (std::string& material : Cut(installed.ListPipeTables(kRoom, 0.0, 0.0))) {
+            for (std::string& name : Cut(installed.ListPipeSchedules(kRoom, material.data()))) {
+                const auto sizes =
+                    Cut(installed.ListPipeSizes(kRoom, material.data(), name.data()));
+                if (sizes.size() > found.sizes) found = {directory, material, name, sizes.size()};
+            }
+        }
+        return found;
+    }();
+    return largest;
+}
+
+void LoadPipeSchedule(benchmark::State& state) {
+    const Schedule& schedule = Largest();
+    CPipeTable pipe(HF_US);
+    for (auto _ : state) {
+        if (!pipe.LoadMaterial(schedule.directory.c_str(), schedule.material.c_str()) ||
+            !pipe.LoadPipeList(schedule.name.c_str(), nullptr)) {
+            state.SkipWithError("the schedule does not load");
+            break;
+        }
+    }
+    state.SetLabel(schedule.material + ", " + schedule.name + ": " +
+                   std::to_string(schedule.sizes) + " sizes");
+}
+
+void ReadPipeTable(benchmark::State& state) {
+    const std::string path = Largest().directory + "/" + Largest().material + ".PTBL";
+    std::vector<char> buffer(std::filesystem::file_size(path));
+    for (auto _ : state) {
+        const int file = ::open(path.c_str(), O_RDONLY);
+        if (::read(file, buffer.data(), buffer.size()) <= 0) {
+            state.SkipWithError("the file can't be read");
+            break;
+        }
+        ::close(file);
+        benchmark::DoNotOptimize(buffer.data());
+    }
+}
+
+BENCHMARK(LoadPipeSchedule);
+BENCHMARK(ReadPipeTable);
+
+const bench::Ratio load("LoadPipeSchedule", "ReadPipeTable", 4.0);
+
+/// A directory of many small pipe tables, the table directory of the library while it exists.
+class ManyTables {
+  public:
+    explicit ManyTables(std::int64_t count)
+        : path_(std::filesystem::temp_directory_path() / "hydrofacts-bench-many") {
+        std::filesystem::remove_all(path_);
+        std::filesystem::create_directories(path_);
+        for (std::int64_t i = 0; i < count; ++i) {
+            std::ofstream(path_ / ("Material " + std::to_string(i) + ".PTBL"))
+                << "S\t\"Material\"\r\nV\t\"1.0\"\tbenchmark\t1\t7\r\nR\t0.0018\t0.0457\t140\r\n"
+                   "Z\t40\t1\t25\t1.049\t1.315\t26.64\t33.4\r\n";
+        }
+        SetDirectory(DIR_TABLES, path_.c_str());
+    }
+    ~ManyTables() {
+        SetDirectory(DIR_TABLES, nullptr);
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    ManyTables(const ManyTables&) = delete;
+    ManyTables& operator=(const ManyTables&) = delete;
+
+  private:
+    std::filesystem::path path_;
+};
+
+void ListManyPipeTables(benchmark::State& state) {
+    const ManyTables tables(state.range(0));
+    CPipeTableList list(HF_US);
+    const int size = list.SizePipeTables();
+    std::vector<char> names(static_cast<std::size_t>(size));
+    for (auto _ : state) {
+        if (list.ListPipeTables(names.data(), size, 0.0, 0.0) != state.range(0)) {
+            state.SkipWithError("a table is missing");
+            break;
+        }
+    }
+    state.SetComplexityN(state.range(0));
+    state.counters["per table"] = benchmark::Counter(
+        static_cast<double>(state.range(0)),
+        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+BENCHMARK(ListManyPipeTables)->RangeMultiplier(10)->Range(10, 10000)->Complexity();
+
+}  // namespace
