@@ -95,8 +95,8 @@ void RequirePossible(HF_UNIT_TYPES type, double value, int from) {
 struct FluidInUse {
     FluidInUse(const ConvertOptions& own, const Options& options)
         : point(own.setPoint),
-          directory(options.tables),
-          table(directory.RequireFluid(own.fluid)),
+          directory(options.tables, kFluidTables),
+          table(directory.Require(own.fluid)),
           fluid(point.UserUnits()) {
         LoadAtSetPoint(fluid, directory, table, point);
         RequireState(fluid, table);

@@ -4,7 +4,6 @@
 
 #include "tools/Encoding.h"
 #include "tools/Failure.h"
-#include "tools/Platform.h"
 
 namespace hydrofacts::command {
 namespace {
@@ -24,7 +23,7 @@ std::string LibraryMessage(unsigned id) {
 void LoadAtSetPoint(TableFluid& fluid, const TableDirectory& directory, const TableName& table,
                     const SetPoint& point) {
     if (!fluid.Load(directory, table)) {
-        throw Failure(Utf8FromPath(table.file) + ": not a valid fluid table");
+        throw directory.NotUsable(table);
     }
     fluid.MoveTo(point.Temperature(), point.Pressure());
 }

@@ -130,16 +130,13 @@ void AddConstants(Rows& rows, const SetPoint& point, TableFluid& fluid) {
 }
 
 void AddTable(Rows& rows, const TableName& table) {
-    const TableHead head = ReadTableHead(table);
-    rows.push_back(
-        {"Table", fmt::format("{} (version {})", head.title.empty() ? "untitled" : head.title,
-                              head.version.empty() ? "not told" : head.version)});
+    rows.push_back({"Table", TitleText(ReadTableHead(table))});
 }
 
 void ShowFluid(const Options& options, const std::string& name, const SetPointOptions& setPoint) {
     const SetPoint point(setPoint);
-    const TableDirectory directory(options.tables);
-    const TableName table = directory.RequireFluid(name);
+    const TableDirectory directory(options.tables, kFluidTables);
+    const TableName table = directory.Require(name);
     TableFluid fluid(point.UserUnits());
     LoadAtSetPoint(fluid, directory, table, point);
     const bool hasState = fluid.GetFluidState() != FLUID_NONE;

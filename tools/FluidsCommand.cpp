@@ -4,7 +4,6 @@
 
 #include "tools/Names.h"
 #include "tools/Output.h"
-#include "tools/Platform.h"
 #include "tools/Program.h"
 #include "tools/TableDirectory.h"
 #include "tools/TableFluid.h"
@@ -30,11 +29,11 @@ struct ListedFluid {
 
 std::vector<ListedFluid> UsableFluids(const TableDirectory& directory, const std::string& state) {
     std::vector<ListedFluid> fluids;
-    for (const TableName& table : directory.ListedFluids()) {
+    for (const TableName& table : directory.Listed()) {
         const Units units;
         TableFluid fluid(units);
         if (!fluid.Load(directory, table)) {
-            PrintError(Utf8FromPath(table.file) + ": not a valid fluid table");
+            PrintError(directory.NotUsable(table).what());
             continue;
         }
         const bool liquid = fluid.HasLiquid();
@@ -65,7 +64,7 @@ nlohmann::ordered_json ToJson(const ListedFluid& fluid) {
 }
 
 void ListFluids(const Options& options, const std::string& state) {
-    const TableDirectory directory(options.tables);
+    const TableDirectory directory(options.tables, kFluidTables);
     const auto fluids = UsableFluids(directory, state);
     if (options.json) {
         auto json = nlohmann::ordered_json::array();

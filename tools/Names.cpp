@@ -31,6 +31,14 @@ std::string LowerCase(std::string_view text) {
     return result;
 }
 
+std::string UpperCase(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), [](char c) {
+        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    });
+    return result;
+}
+
 bool LessIgnoringCase(std::string_view a, std::string_view b) {
     const std::string lowerA = LowerCase(a);
     const std::string lowerB = LowerCase(b);

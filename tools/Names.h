@@ -8,8 +8,9 @@
 
 namespace hydrofacts::command {
 
-/// A text with its ASCII letters in lower case.
+/// A text with its ASCII letters in lower or upper case.
 std::string LowerCase(std::string_view text);
+std::string UpperCase(std::string_view text);
 
 /// Order and equality without regard to the case of ASCII letters.
 bool LessIgnoringCase(std::string_view a, std::string_view b);

@@ -46,6 +46,10 @@ void PrintJson(const nlohmann::ordered_json& json) {
     Print(json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
 }
 
+nlohmann::ordered_json NumberOrNull(double value) {
+    return value == 0.0 ? nlohmann::ordered_json() : nlohmann::ordered_json(value);
+}
+
 void PrintError(std::string_view message) {
     std::fflush(stdout);
     while (!message.empty()) {

@@ -16,6 +16,9 @@ void Print(std::string_view text);
 void PrintRows(const Rows& rows);
 void PrintJson(const nlohmann::ordered_json& json);
 
+/// A number for JSON: null for 0, which is the library's word for "there is none".
+nlohmann::ordered_json NumberOrNull(double value);
+
 /// Writes a message to standard error, each line behind the program's name and with a point at its
 /// end.
 void PrintError(std::string_view message);

@@ -16,6 +16,8 @@ namespace {
 constexpr const char* kFooter =
     R"(Examples:
   hydrofacts fluid Water -t 20 -p 1 --units metric
+  hydrofacts pipe "Steel B36.10M" 40 2
+  hydrofacts valve Standard "Check Valve"
   hydrofacts convert 100 "US gpm" m3/hr
   hydrofacts elevation 1500 m
   hydrofacts fluid --help
@@ -29,6 +31,10 @@ Exit status:
 void AddCommands(CLI::App& app, Options& options) {
     AddFluidsCommand(app, options);
     AddFluidCommand(app, options);
+    AddPipesCommand(app, options);
+    AddPipeCommand(app, options);
+    AddValvesCommand(app, options);
+    AddValveCommand(app, options);
     AddConvertCommand(app, options);
     AddUnitsCommand(app, options);
     AddElevationCommand(app, options);
@@ -101,6 +107,12 @@ void AddJsonOption(CLI::App& app, Options& options) {
     app.add_flag("--json", options.json, "Print JSON, for programs");
 }
 
+void AddLengthUnitsOption(CLI::App& app, std::string& system) {
+    app.add_option("--units", system, "us: lengths in inches, the default; metric: in millimetres")
+        ->type_name("us|metric")
+        ->check(CLI::IsMember({"us", "metric"}, CLI::ignore_case).description(""));
+}
+
 void AddSetPointOptions(CLI::App& app, SetPointOptions& setPoint, bool required) {
     const auto add = [&](const char* name, std::string& text, const char* type, const char* help) {
         return app.add_option(name, text, help)->type_name(type)->group("Set point");
@@ -123,7 +135,8 @@ void AddSetPointOptions(CLI::App& app, SetPointOptions& setPoint, bool required)
 
 int Run(std::vector<std::string> arguments) {
     CLI::App app(
-        "Fluid properties, unit conversion and the standard atmosphere for systems of pipes.",
+        "Fluid properties, pipe and valve data, unit conversion and the standard atmosphere for\n"
+        "systems of pipes.",
         "hydrofacts");
     Options options;
     app.set_version_flag("--version", "hydrofacts " HYDROFACTS_VERSION);

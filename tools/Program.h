@@ -18,12 +18,18 @@ struct Options {
 
 void AddTablesOption(CLI::App& app, Options& options);
 void AddJsonOption(CLI::App& app, Options& options);
+/// Takes the unit system of a table's lengths, for SystemNamed.
+void AddLengthUnitsOption(CLI::App& app, std::string& system);
 void AddSetPointOptions(CLI::App& app, SetPointOptions& setPoint, bool required);
 
 // Each adds one subcommand, which throws Failure when it is run and can't do its work. `options`
 // must outlive the parsing.
 void AddFluidsCommand(CLI::App& app, Options& options);
 void AddFluidCommand(CLI::App& app, Options& options);
+void AddPipesCommand(CLI::App& app, Options& options);
+void AddPipeCommand(CLI::App& app, Options& options);
+void AddValvesCommand(CLI::App& app, Options& options);
+void AddValveCommand(CLI::App& app, Options& options);
 void AddConvertCommand(CLI::App& app, Options& options);
 void AddCheckCommand(CLI::App& app, Options& options);
 void AddUnitsCommand(CLI::App& app, Options& options);

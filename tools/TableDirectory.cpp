@@ -7,7 +7,6 @@
 
 #include "hydrofacts/hydrofacts.h"
 #include "tools/Encoding.h"
-#include "tools/Failure.h"
 #include "tools/Names.h"
 #include "tools/Numbers.h"
 #include "tools/Platform.h"
@@ -17,7 +16,6 @@ namespace {
 
 constexpr std::size_t kPathBuffer = 260;        // of the library, with the terminator
 constexpr std::size_t kLongestListedName = 30;  // the library's rule for lists
-constexpr std::string_view kExtension = ".FTBL";
 
 std::string DirectoryOfLibrary() {
     char buffer[kPathBuffer] = "";
@@ -57,7 +55,8 @@ std::string Unquoted(std::string_view text) {
 
 }  // namespace
 
-TableDirectory::TableDirectory(const std::optional<std::string>& given) {
+TableDirectory::TableDirectory(const std::optional<std::string>& given, const TableKind& kind)
+    : m_kind(kind) {
     if (given) SetDirectoryOfLibrary(*given);
     m_narrow = DirectoryOfLibrary();
     m_path = Utf8FromNarrow(m_narrow);
@@ -76,7 +75,7 @@ void TableDirectory::ReadNames() {
     }
     for (; entries != fs::directory_iterator(); entries.increment(error)) {
         const fs::path& path = entries->path();
-        if (!EqualIgnoringCase(Utf8FromPath(path.extension()), kExtension)) continue;
+        if (!EqualIgnoringCase(Utf8FromPath(path.extension()), m_kind.extension)) continue;
         const std::string name = Utf8FromPath(path.stem());
 #ifdef _WIN32
         // Names of files are wide there; the library asks for them in the ANSI code page.
@@ -87,23 +86,22 @@ void TableDirectory::ReadNames() {
     }
     if (m_tables.empty()) {
         throw Failure(
-            fmt::format("{}: the table directory holds no fluid table (*.FTBL); --tables "
-                        "DIR names another",
-                        m_path));
+            fmt::format("{}: the table directory holds no {} (*{}); --tables DIR names another",
+                        m_path, m_kind.table, m_kind.extension));
     }
     std::sort(m_tables.begin(), m_tables.end(), [](const TableName& a, const TableName& b) {
         return LessIgnoringCase(a.name, b.name);
     });
 }
 
-std::vector<TableName> TableDirectory::ListedFluids() const {
+std::vector<TableName> TableDirectory::Listed() const {
     std::vector<TableName> listed;
     std::copy_if(m_tables.begin(), m_tables.end(), std::back_inserter(listed),
                  [](const TableName& table) { return table.narrow.size() <= kLongestListedName; });
     return listed;
 }
 
-TableName TableDirectory::RequireFluid(std::string_view name) const {
+TableName TableDirectory::Require(std::string_view name) const {
     const auto find = [&](auto equal) {
         return std::find_if(m_tables.begin(), m_tables.end(),
                             [&](const TableName& table) { return equal(table.name, name); });
@@ -113,12 +111,18 @@ TableName TableDirectory::RequireFluid(std::string_view name) const {
     if (found != m_tables.end()) return *found;
 
     std::vector<std::string> names;
-    for (const TableName& table : ListedFluids()) names.push_back(table.name);
+    for (const TableName& table : Listed()) names.push_back(table.name);
     const auto nearest = NearestNames(name, names);
-    throw Failure(fmt::format("no fluid \"{}\" in {}; {}", name, m_path,
-                              nearest.empty()
-                                  ? "`hydrofacts fluids` lists what is installed"
-                                  : fmt::format("did you mean {}?", JoinNames(nearest, "or"))));
+    throw Failure(fmt::format(
+        "no {} \"{}\" in {}; {}", m_kind.subject, name, m_path,
+        nearest.empty() ? fmt::format("`hydrofacts {}` lists what is installed", m_kind.listing)
+                        : fmt::format("did you mean {}?", JoinNames(nearest, "or"))));
+}
+
+Failure TableDirectory::NotUsable(const TableName& table, std::string_view reason) const {
+    return Failure(
+        Utf8FromPath(table.file) + ": " +
+        (reason.empty() ? fmt::format("not a valid {}", m_kind.table) : std::string(reason)));
 }
 
 TableHead ReadTableHead(const TableName& table) {
@@ -140,6 +144,11 @@ TableHead ReadTableHead(const TableName& table) {
         }
     }
     return head;
+}
+
+std::string TitleText(const TableHead& head) {
+    return fmt::format("{} (version {})", head.title.empty() ? "untitled" : head.title,
+                       head.version.empty() ? "not told" : head.version);
 }
 
 std::string LevelsText(const TableHead& head) {
