@@ -31,6 +31,11 @@ std::string FirstDifference(const std::string& page, const std::string& today) {
 
 class CommandPage : public CommandRunner {
   protected:
+    /// The examples name their files by the page's folder.
+    CommandPage() {
+        std::filesystem::current_path(std::filesystem::path(HYDROFACTS_COMMAND_PAGE).parent_path());
+    }
+
     /// The page with the output of every example as the program prints it now.
     std::string PageOfToday(const std::string& page) {
         std::istringstream lines(page);

@@ -49,7 +49,7 @@ std::optional<ScannedReal> ScanReal(std::string_view text) {
     return ScannedReal{negative ? -value : value, text, hexadecimal};
 }
 
-/// The field of a line, and where to report what is wrong with it.
+/// The field of a line, and where to report what is wrong with it: the first thing that is.
 class FieldCheck {
   public:
     FieldCheck(const TableLine& line, const NumberField& wanted, Findings& findings)
@@ -61,6 +61,8 @@ class FieldCheck {
     std::string_view Text() const { return m_text; }
 
     void Error(const std::string& reason) {
+        if (m_failed) return;
+        m_failed = true;
         m_findings.Error(m_line, m_wanted.field, fmt::format("{}: {}", m_wanted.what, reason));
     }
     void Warning(const std::string& reason) {
@@ -99,6 +101,7 @@ class FieldCheck {
     const NumberField& m_wanted;
     std::string_view m_text;
     Findings& m_findings;
+    bool m_failed = false;
 };
 
 // A leading 0 makes "010" an 8, which nobody who writes a table means.

@@ -71,8 +71,9 @@ class FluidWalk {
         if (m_next < kRecords) {
             m_findings.Error(m_lines.back().number, 0,
                              fmt::format("the table ends here without {}", Name(m_next)));
+        } else if (m_constantsLine != 0) {
+            CheckSets();
         }
-        if (m_constantsLine != 0 && m_next > kFirstFormula) CheckSets();
     }
 
     const FluidRecords& Records() const { return m_records; }

@@ -41,15 +41,10 @@ void CheckCoefficients(const TableLine& line, std::size_t slot, Findings& findin
     std::array<double, 5> coefficients{};
     for (std::size_t i = 0; i < coefficients.size() && i + 3 <= line.fields.size(); ++i) {
         const auto value = CheckReal(line, kCoefficients[i], findings);
-        if (!value) break;
+        if (!value) return;
         coefficients[i] = *value;
     }
     if (slot != SLOT_VAPOR_DENSITY) CheckSum(line, coefficients, findings);
-    if (line.fields.size() > kFields) {
-        findings.Warning(line.number, kFields + 1,
-                         fmt::format("{} is not read: the record has {} fields",
-                                     Quoted(line.Field(kFields + 1)), kFields));
-    }
 }
 
 }  // namespace
@@ -68,6 +63,11 @@ int CheckFormula(const TableLine& line, std::size_t slot, Findings& findings) {
     }
     if (slot == SLOT_VAPOR_DENSITY && NeedsAcentricFactor(*type) && line.fields.size() < 3) {
         findings.Warning(line.number, 3, "c0: the acentric factor is missing and is read as 0");
+    }
+    if (line.fields.size() > kFields) {
+        findings.Warning(line.number, kFields + 1,
+                         fmt::format("{} is not read: the record has {} fields",
+                                     Quoted(line.Field(kFields + 1)), kFields));
     }
     CheckCoefficients(line, slot, findings);
     return *type;

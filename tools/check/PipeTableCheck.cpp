@@ -46,7 +46,9 @@ class PipeWalk {
 
     void Run() {
         const std::size_t version = CheckHeadLines(m_lines, m_findings);
-        for (std::size_t i = 0; i < m_lines.size(); ++i) Visit(m_lines[i], i < version);
+        for (std::size_t i = 0; i < m_lines.size(); ++i) {
+            Visit(m_lines[i], i < version && version < m_lines.size());
+        }
         CheckWhole(version);
     }
 

@@ -13,7 +13,6 @@
 namespace hydrofacts::command {
 namespace {
 
-constexpr std::size_t kMostRows = 100;
 constexpr std::size_t kNameRoom = 31;
 constexpr double kNoUpperLimit = 9999.0;
 
@@ -34,13 +33,13 @@ class Limits {
         for (std::size_t i = 0; i < rows.size(); ++i) {
             const auto limit = CheckReal(*rows[i], place, findings);
             if (limit) m_limits[i] = *limit;
-            m_read = m_read && limit;
+            m_sound = m_sound && limit;
         }
     }
 
     /// The rows by limit; empty if their order can't be told.
     std::vector<std::size_t> Check() {
-        if (!m_read) return {};
+        if (!m_sound) return {};
         const std::size_t count = m_limits.size();
         std::vector<std::size_t> order(count);
         std::iota(order.begin(), order.end(), std::size_t{0});
@@ -49,7 +48,7 @@ class Limits {
         });
         for (std::size_t i = 0; i + 1 < count; ++i) CheckLimit(i);
         for (std::size_t i = 0; i + 2 < count; ++i) CheckEqual(order[i], order[i + 1]);
-        return order;
+        return m_sound ? order : std::vector<std::size_t>();
     }
 
   private:
@@ -73,6 +72,7 @@ class Limits {
     }
 
     void Error(std::size_t row, const std::string& reason) {
+        m_sound = false;
         m_findings.Error(m_rows[row]->number, m_place.field,
                          fmt::format("{}: {}", m_place.what, reason));
     }
@@ -81,7 +81,7 @@ class Limits {
     const NumberField& m_place;
     Findings& m_findings;
     std::vector<double> m_limits;
-    bool m_read = true;
+    bool m_sound = true;
 };
 
 void CheckSameAsFirst(const TableLine& row, const TableLine& first, Findings& findings) {
@@ -116,7 +116,7 @@ bool HasSeveralRows(std::int16_t formula) { return formula == 9 || formula == 13
 
 std::size_t RowsOfRecord(std::span<const TableLine* const> records) {
     std::size_t count = 1;
-    while (count < std::min(records.size(), kMostRows) && !records[count]->Field(3).empty() &&
+    while (count < records.size() && !records[count]->Field(3).empty() &&
            DeviceName(*records[count]) == DeviceName(*records[0])) {
         ++count;
     }

@@ -71,10 +71,7 @@ class ValveWalk {
         if (!formula) return 1;
         const std::size_t rows = HasSeveralRows(*formula) ? RowsOfRecord(records) : 1;
         if (HasSeveralRows(*formula)) {
-            for (const TableLine* row : records.subspan(1, rows - 1)) {
-                if (IsRecord(*row)) CheckShape(*row);
-            }
-            CheckRows(records.first(rows), m_findings);
+            VisitRows(records.first(rows));
         } else {
             for (const NumberField& number : kNumbers) CheckReal(line, number, m_findings);
             CheckShort(line, {8, "image number", Need::Positive}, m_findings);
@@ -84,6 +81,19 @@ class ValveWalk {
         m_found.formulas.insert(*formula);
         if (line.Field(2) == "Other") m_found.formulasOfOther.insert(*formula);
         return rows;
+    }
+
+    void VisitRows(Records rows) {
+        for (const TableLine* row : rows.subspan(1)) {
+            if (IsRecord(*row)) CheckShape(*row);
+        }
+        CheckRows(rows.first(std::min(rows.size(), kMostRows)), m_findings);
+        if (rows.size() > kMostRows) {
+            m_findings.Error(rows[kMostRows]->number, 0,
+                             fmt::format("a record has {} rows at most: this one begins another of "
+                                         "the same name",
+                                         kMostRows));
+        }
     }
 
     bool IsRecord(const TableLine& line) {
