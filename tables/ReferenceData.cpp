@@ -1,6 +1,7 @@
 #include "tables/ReferenceData.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "hydrofacts/formula/Constants.h"
@@ -10,6 +11,8 @@ namespace hydrofacts::tables {
 namespace {
 
 using FluidsByCas = std::map<std::string, FluidData, std::less<>>;
+
+constexpr double kSamePoint = 0.1;  // K
 
 // The columns of the check files that hold a property over temperature.
 constexpr std::pair<Property, const char*> kSaturationColumns[] = {
@@ -200,6 +203,12 @@ void UseFineGrid(FluidData& fluid, const std::vector<CsvRow>& rows) {
     for (auto& [property, points] : fine) {
         CheckPoints& check = fluid.check[property];
         check.judge.insert(check.judge.end(), check.fit.begin(), check.fit.end());
+        // A point of the grid, or one next to it, must not judge the fit to it.
+        std::erase_if(check.judge, [&fitted = points](const Point& point) {
+            return std::any_of(fitted.begin(), fitted.end(), [&](const Point& other) {
+                return std::fabs(other.temperature - point.temperature) < kSamePoint;
+            });
+        });
         SortByTemperature(check.judge);
         SortByTemperature(points);
         check.fit = std::move(points);

@@ -189,8 +189,8 @@ TEST(FluidTables, AirHasABandOfTwoPhases) {
     EXPECT_EQ(FLUID_VAPOR, air.At(100.0, 540.0));
 }
 
-/// Calls use(temperature) at temperatures over a range, both ends included. The steps are not round,
-/// since exactly at the critical temperature a pure fluid has no state.
+/// Calls use(temperature) at temperatures over a range, both ends included. The steps are not
+/// round, since exactly at the critical temperature a pure fluid has no state.
 template <class Use>
 void Over(double from, double to, Use use) {
     constexpr int kSteps = 40;
