@@ -30,9 +30,7 @@ bool IsAscii(std::string_view text) {
 }
 
 // The five bytes that no character of Windows-1252 has.
-bool IsUnassigned(char c) {
-    return std::string_view("\x81\x8D\x8F\x90\x9D").find(c) != std::string_view::npos;
-}
+constexpr std::string_view kUnassigned = "\x81\x8D\x8F\x90\x9D";
 
 // Whether the readers make something of a line, such as a record or a text for the screen.
 bool IsRead(const TableLine& line, const LineRules& rules) {
@@ -45,10 +43,10 @@ void CheckEncoding(const TableLine& line, const LineRules& rules, Findings& find
     if (IsUtf8(line.text)) {
         reason = "UTF-8 is read as Windows-1252, as in " + Quoted(line.text);
     } else {
-        const auto bad = std::find_if(line.text.begin(), line.text.end(), IsUnassigned);
-        if (bad == line.text.end()) return;
+        const std::size_t bad = line.text.find_first_of(kUnassigned);
+        if (bad == std::string_view::npos) return;
         reason = fmt::format("byte {:02X} is no character of Windows-1252",
-                             static_cast<unsigned>(static_cast<unsigned char>(*bad)));
+                             static_cast<unsigned>(static_cast<unsigned char>(line.text[bad])));
     }
     if (IsRead(line, rules)) {
         findings.Error(line.number, 0, std::move(reason));
@@ -66,7 +64,7 @@ void CheckStart(const TableLine& line, const LineRules& rules, Findings& finding
     const std::string_view first = rest.substr(0, rest.find_first_of(kSeparators));
     const bool oneKey = first.size() == 1 && rules.keys.find(first[0]) != std::string_view::npos;
     const bool formula =
-        first.size() == 2 && first[0] == 'P' && rules.keys.find('P') != rules.keys.npos;
+        first.size() == 2 && first[0] == 'P' && rules.keys.find('P') != std::string_view::npos;
     if (oneKey || formula) {
         findings.Error(line.number, 0,
                        fmt::format("blanks ahead of {}: the line is passed over", Quoted(first)));
