@@ -16,7 +16,7 @@ namespace hydrofacts::command {
 namespace {
 
 constexpr const char* kFooter =
-    R"(A size is nominal, in in or, with --units metric, in mm (DN); 1/2, "2 1/2" and 2-1/2 do too. The
+    R"(A size is nominal, in inches or, with --units metric, in mm (DN); 1/2, "2 1/2" and 2-1/2 do too. The
 second dimension of a table is taken for the outside diameter if it is larger than the inside one in
 every size. Absolute roughness and Hazen-Williams C are of new pipe.
 
@@ -39,7 +39,11 @@ struct PipeOptions {
     bool previous = false;
 };
 
-double Wall(const t_pipe_size& size) { return (size.second_dim - size.inside_dia) / 2.0; }
+// Without the last binary digits, in which a difference is not what the table's decimals give.
+double Wall(const t_pipe_size& size) {
+    constexpr double kSteps = 1e9;
+    return std::round((size.second_dim - size.inside_dia) / 2.0 * kSteps) / kSteps;
+}
 
 Json ToJson(const t_pipe_size& size, bool outside) {
     Json json = {

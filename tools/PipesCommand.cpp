@@ -12,7 +12,7 @@ namespace hydrofacts::command {
 namespace {
 
 constexpr const char* kFooter =
-    R"(Roughness is absolute, in in or mm; C is that of Hazen and Williams; both of new pipe. Tables that
+    R"(Roughness is absolute, in inches or mm; C is that of Hazen and Williams; both of new pipe. Tables that
 can't be used are named on standard error.
 
 Examples:

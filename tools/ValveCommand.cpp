@@ -17,8 +17,9 @@ namespace {
 
 constexpr const char* kFooter =
     R"(The types are Fitting, Bend, Valve, Check Valve and Other; without one all are shown. The limits of
-what goes by nominal size are in in or, with --units metric, in mm (DN). Fixed K, Fixed Cv and Fixed
-Kv stand in every table, for figures of the user's.
+what goes by nominal size are in inches or, with --units metric, in mm (DN); above the last size of
+the source nothing is known. Fixed K, Fixed Cv and Fixed Kv stand in every table, for figures of the
+user's.
 
 Head loss is K v²/2g. Re is the Reynolds number, fT the friction factor of fully turbulent flow in
 clean steel pipe, β the ratio of the diameters of a cone, θ its full angle.
