@@ -138,6 +138,7 @@ int Run(std::vector<std::string> arguments) {
         "Fluid properties, pipe and valve data, unit conversion and the standard atmosphere for\n"
         "systems of pipes.",
         "hydrofacts");
+    app.allow_windows_style_options(false);  // "/tables" is a path on every platform
     Options options;
     app.set_version_flag("--version", "hydrofacts " HYDROFACTS_VERSION);
     AddTablesOption(app, options);

@@ -15,7 +15,8 @@
 #define HYDROFACTS_API __declspec(dllimport)
 #endif
 
-// Marks members of an exported class that no host can name, so that the library reaches them directly.
+// Marks members of an exported class that no host can name, so that the library reaches them
+// directly.
 #ifdef _WIN32
 #define HYDROFACTS_HIDDEN
 #else
