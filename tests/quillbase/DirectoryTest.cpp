@@ -8,7 +8,7 @@ namespace {
 
 class Directory : public ::testing::Test {
   protected:
-    ~Directory() override { SetDirectory(DIR_TABLES, nullptr); }
+    void TearDown() override { SetDirectory(DIR_TABLES, nullptr); }
 
     static std::string Tables() {
         char path[260];

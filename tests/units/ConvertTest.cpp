@@ -26,7 +26,7 @@ class Convert : public ::testing::Test {
             units.SetCustomUnit(type, 0.0, "OTHER", false);
         }
     }
-    ~Convert() override { Restore(); }
+    void TearDown() override { Restore(); }
 
     Units units_;
     CFluid liquid_ = Liquid();

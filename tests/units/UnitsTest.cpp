@@ -15,13 +15,11 @@ TEST(Units, EachSystemHasItsDefaultUnits) {
         const char* texts[12];
     } kSystems[] = {
         {HF_US,
-         {"\xB0"
-          "F",
-          "psi", "US gpm", "lb/ft\xB3", "cP", "ft/s", "hp", "in", "ft", "in\xB2", "lb/ft", "ft"}},
+         {"\260F", "psi", "US gpm", "lb/ft\xB3", "cP", "ft/s", "hp", "in", "ft", "in\xB2", "lb/ft",
+          "ft"}},
         {HF_METRIC,
-         {"\xB0"
-          "C",
-          "bar", "m\xB3/hr", "kg/m\xB3", "cP", "m/s", "kW", "mm", "m", "cm\xB2", "kg/m", "m"}},
+         {"\260C", "bar", "m\xB3/hr", "kg/m\xB3", "cP", "m/s", "kW", "mm", "m", "cm\xB2", "kg/m",
+          "m"}},
     };
     for (const auto& c : kSystems) {
         const Units units(c.system);
@@ -79,7 +77,7 @@ void ExpectUnusual(const Units& units) {
 
 TEST(Units, CopyTakesOverAllButTheAtmosphere) {
     const Units source = Unusual();
-    const Units copy(source);
+    const Units copy(source);  // NOLINT(performance-unnecessary-copy-initialization): its subject
     ExpectUnusual(copy);
     EXPECT_EQ(copy.GetAtmosphere(HF_KPA, false), 101.325);
 }
