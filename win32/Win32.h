@@ -15,6 +15,8 @@
 #define WIN32_LEAN_AND_MEAN
 #endif
 #include <windows.h>
+// After the header it builds on.
+#include <commctrl.h>
 
 #else
 
