@@ -37,18 +37,6 @@ const char* StateName(FLUIDSTATE state) {
     }
 }
 
-const char* EquationName(int equation) {
-    // clang-format off
-    switch (equation) {
-        case 1:  return "ideal gas";
-        case 2:  return "Peng-Robinson";
-        case 3:  return "Redlich-Kwong";
-        case 4:  return "Soave-Redlich-Kwong";
-        default: return "none, no vapor formulas";
-    }
-    // clang-format on
-}
-
 std::string DensityUnit(const Units& units) { return UnitText(HF_DENSITY, units.bUS() ? 0 : 1); }
 
 nlohmann::ordered_json ToJson(const std::string& name, const SetPoint& point, TableFluid& fluid) {

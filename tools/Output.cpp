@@ -8,7 +8,8 @@
 namespace hydrofacts::command {
 namespace {
 
-constexpr std::size_t kGap = 2;  // blanks between columns
+constexpr std::size_t kGap = 2;         // blanks between columns
+constexpr std::size_t kLineWidth = 98;  // of running text
 
 // Characters of a text in UTF-8; none of ours is wider than one column.
 std::size_t Width(std::string_view text) {
@@ -18,6 +19,29 @@ std::size_t Width(std::string_view text) {
 }
 
 }  // namespace
+
+std::string Wrapped(std::string_view text, std::size_t indent) {
+    std::string lines;
+    std::size_t column = 0;
+    while (!text.empty()) {
+        const std::string_view word = text.substr(0, text.find(' '));
+        text.remove_prefix(std::min(word.size() + 1, text.size()));
+        if (column > 0 && column + 1 + Width(word) > kLineWidth) {
+            lines += '\n';
+            column = 0;
+        }
+        if (column == 0) {
+            lines.append(indent, ' ');
+            column = indent;
+        } else {
+            lines += ' ';
+            ++column;
+        }
+        lines += word;
+        column += Width(word);
+    }
+    return lines + '\n';
+}
 
 void Print(std::string_view text) { fmt::print("{}", text); }
 

@@ -11,6 +11,9 @@ namespace hydrofacts::command {
 /// A table of texts, printed with its columns aligned.
 using Rows = std::vector<std::vector<std::string>>;
 
+/// A text cut at blanks into lines that fit a screen, each behind an indent.
+std::string Wrapped(std::string_view text, std::size_t indent);
+
 /// Writes to standard output, in UTF-8.
 void Print(std::string_view text);
 void PrintRows(const Rows& rows);

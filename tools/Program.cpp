@@ -31,6 +31,7 @@ Exit status:
 void AddCommands(CLI::App& app, Options& options) {
     AddFluidsCommand(app, options);
     AddFluidCommand(app, options);
+    AddTableCommand(app, options);
     AddPipesCommand(app, options);
     AddPipeCommand(app, options);
     AddValvesCommand(app, options);
@@ -113,24 +114,36 @@ void AddLengthUnitsOption(CLI::App& app, std::string& system) {
         ->check(CLI::IsMember({"us", "metric"}, CLI::ignore_case).description(""));
 }
 
-void AddSetPointOptions(CLI::App& app, SetPointOptions& setPoint, bool required) {
+void AddUnitOptions(CLI::App& app, UnitOptions& units) {
     const auto add = [&](const char* name, std::string& text, const char* type, const char* help) {
-        return app.add_option(name, text, help)->type_name(type)->group("Set point");
+        return app.add_option(name, text, help)->type_name(type)->group("Units");
     };
-    add("-t,--temperature", setPoint.temperature, "TEMP", "Temperature")->required(required);
-    add("-p,--pressure", setPoint.pressure, "PRES", "Pressure, gauge unless --absolute is given")
-        ->required(required);
-    app.add_flag("--absolute", setPoint.absolute, "PRES is absolute")->group("Set point");
-    add("--units", setPoint.system, "us|metric",
+    add("--units", units.system, "us|metric",
         "us: \u00B0F, psi, lb/ft\u00B3; metric: \u00B0C, bar, kg/m\u00B3. The default\n"
         "is metric with a temperature unit of \u00B0C or K, else us")
         ->check(CLI::IsMember({"us", "metric"}, CLI::ignore_case).description(""));
-    add("--temperature-unit", setPoint.temperatureUnit, "U",
+    add("--temperature-unit", units.temperatureUnit, "U",
         "\u00B0F, \u00B0R, \u00B0C, K; plain F or degC will do");
-    add("--pressure-unit", setPoint.pressureUnit, "U",
+    add("--pressure-unit", units.pressureUnit, "U",
         "psi, kPa, bar, in H2O, in Hg, mm H2O, mm Hg, Pa");
-    add("--atmosphere", setPoint.atmosphere, "X",
-        "Atmospheric pressure, absolute, in the unit of PRES;\nstandard: 101.325 kPa");
+}
+
+void AddPressureOptions(CLI::App& app, PressureOptions& pressures) {
+    app.add_flag("--absolute", pressures.absolute, "PRES is absolute")->group("Set point");
+    app.add_option("--atmosphere", pressures.atmosphere,
+                   "Atmospheric pressure, absolute, in the unit of PRES;\nstandard: 101.325 kPa")
+        ->type_name("X")
+        ->group("Set point");
+}
+
+void AddSetPointOptions(CLI::App& app, SetPointOptions& setPoint, bool required) {
+    const auto add = [&](const char* name, std::string& text, const char* type, const char* help) {
+        app.add_option(name, text, help)->type_name(type)->group("Set point")->required(required);
+    };
+    add("-t,--temperature", setPoint.temperature, "TEMP", "Temperature");
+    add("-p,--pressure", setPoint.pressure, "PRES", "Pressure, gauge unless --absolute is given");
+    AddPressureOptions(app, setPoint);
+    AddUnitOptions(app, setPoint);
 }
 
 int Run(std::vector<std::string> arguments) {

@@ -20,6 +20,10 @@ void AddTablesOption(CLI::App& app, Options& options);
 void AddJsonOption(CLI::App& app, Options& options);
 /// Takes the unit system of a table's lengths, for SystemNamed.
 void AddLengthUnitsOption(CLI::App& app, std::string& system);
+/// Takes the system of units, and the unit of temperature and of pressure if one is another.
+void AddUnitOptions(CLI::App& app, UnitOptions& units);
+/// Takes what pressures are measured from.
+void AddPressureOptions(CLI::App& app, PressureOptions& pressures);
 void AddSetPointOptions(CLI::App& app, SetPointOptions& setPoint, bool required);
 
 // Each adds one subcommand, which throws Failure when it is run and can't do its work. `options`
@@ -30,6 +34,7 @@ void AddPipesCommand(CLI::App& app, Options& options);
 void AddPipeCommand(CLI::App& app, Options& options);
 void AddValvesCommand(CLI::App& app, Options& options);
 void AddValveCommand(CLI::App& app, Options& options);
+void AddTableCommand(CLI::App& app, Options& options);
 void AddConvertCommand(CLI::App& app, Options& options);
 void AddCheckCommand(CLI::App& app, Options& options);
 void AddUnitsCommand(CLI::App& app, Options& options);

@@ -29,32 +29,36 @@ int RequireTruePressure(const std::string& text) {
 
 }  // namespace
 
-SetPoint::SetPoint(const SetPointOptions& options)
-    : m_temperature(RequireNumber(options.temperature, "--temperature")),
-      m_pressure(RequireNumber(options.pressure, "--pressure")) {
-    SetUnits(options);
-    if (!options.atmosphere.empty()) {
-        const double atmosphere = RequireNumber(options.atmosphere, "--atmosphere");
-        if (atmosphere < 0.0) {
-            throw Failure("--atmosphere: an absolute pressure is not below zero");
-        }
-        m_units.SetAtmosphere(atmosphere, HF_USER_UNIT);
-    }
-    m_units.SetAbsolute(options.absolute);
-}
-
-void SetPoint::SetUnits(const SetPointOptions& options) {
+void SetUserUnits(Units& units, const UnitOptions& options) {
     HF_UNITS system = EqualIgnoringCase(options.system, "metric") ? HF_METRIC : HF_US;
     int temperatureUnit = -1;
     if (!options.temperatureUnit.empty()) {
         temperatureUnit = RequireUnit(HF_TEMPERATURE, options.temperatureUnit);
         if (options.system.empty()) system = SystemOf(temperatureUnit);
     }
-    m_units.SetSystem(system, true);
-    if (temperatureUnit >= 0) m_units.SetUserUnit(HF_TEMPERATURE, temperatureUnit);
+    units.SetSystem(system, true);
+    if (temperatureUnit >= 0) units.SetUserUnit(HF_TEMPERATURE, temperatureUnit);
     if (!options.pressureUnit.empty()) {
-        m_units.SetUserUnit(HF_PRESSURE, RequireTruePressure(options.pressureUnit));
+        units.SetUserUnit(HF_PRESSURE, RequireTruePressure(options.pressureUnit));
     }
+}
+
+void SetGauge(Units& units, const PressureOptions& options) {
+    if (!options.atmosphere.empty()) {
+        const double atmosphere = RequireNumber(options.atmosphere, "--atmosphere");
+        if (atmosphere < 0.0) {
+            throw Failure("--atmosphere: an absolute pressure is not below zero");
+        }
+        units.SetAtmosphere(atmosphere, HF_USER_UNIT);
+    }
+    units.SetAbsolute(options.absolute);
+}
+
+SetPoint::SetPoint(const SetPointOptions& options)
+    : m_temperature(RequireNumber(options.temperature, "--temperature")),
+      m_pressure(RequireNumber(options.pressure, "--pressure")) {
+    SetUserUnits(m_units, options);
+    SetGauge(m_units, options);
 }
 
 std::string SetPoint::TemperatureUnit() const {

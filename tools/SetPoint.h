@@ -7,16 +7,31 @@
 
 namespace hydrofacts::command {
 
-/// What the user gave of a set point, as texts.
-struct SetPointOptions {
-    std::string temperature;
-    std::string pressure;
+/// What the user gave of the units, as texts.
+struct UnitOptions {
     std::string system;           ///< "us", "metric" or empty
     std::string temperatureUnit;  ///< empty: the system's
     std::string pressureUnit;     ///< empty: the system's
-    std::string atmosphere;       ///< empty: the standard atmosphere
+};
+
+/// What the user gave of a pressure besides its number.
+struct PressureOptions {
+    std::string atmosphere;  ///< empty: the standard atmosphere
     bool absolute = false;
 };
+
+/// What the user gave of a set point, as texts.
+struct SetPointOptions : UnitOptions, PressureOptions {
+    std::string temperature;
+    std::string pressure;
+};
+
+/// Sets the user's units. Failure for what can't be read.
+void SetUserUnits(Units& units, const UnitOptions& options);
+
+/// Sets what pressures are measured from. The pressure unit must stand. Failure for what can't be
+/// read.
+void SetGauge(Units& units, const PressureOptions& options);
 
 /// A set point and the units in which it was given. Throws Failure for what can't be read.
 class SetPoint {
@@ -41,8 +56,6 @@ class SetPoint {
     std::string PressureText() const;
 
   private:
-    void SetUnits(const SetPointOptions& options);
-
     Units m_units;
     double m_temperature;
     double m_pressure;

@@ -193,6 +193,18 @@ std::string TableFluid::TooHot(const char* what, double limitK) const {
                        TemperatureText(limitK));
 }
 
+const char* EquationName(int equation) {
+    // clang-format off
+    switch (equation) {
+        case 1:  return "ideal gas";
+        case 2:  return "Peng-Robinson";
+        case 3:  return "Redlich-Kwong";
+        case 4:  return "Soave-Redlich-Kwong";
+        default: return "none, no vapor formulas";
+    }
+    // clang-format on
+}
+
 std::string AbsoluteUnit(const Units& units) {
     return UnitText(HF_PRESSURE, units.GetUserUnit(HF_PRESSURE)) + " absolute";
 }

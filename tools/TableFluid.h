@@ -8,6 +8,12 @@
 
 namespace hydrofacts::command {
 
+/// In kelvin.
+struct TemperatureRange {
+    double lowest;
+    double highest;
+};
+
 /// A fluid of a table that can tell its ranges, and why it has no state at a set point.
 class TableFluid : public CFluid {
   public:
@@ -26,8 +32,17 @@ class TableFluid : public CFluid {
     /// Whether there is a vapor pressure at the set point: below the critical temperature.
     bool HasVaporPressure() const { return m_temperature < m_criticalTemp; }
 
+    /// The formula of a slot as it was loaded.
+    const CFormula& Formula(FORMULASLOT slot) const { return m_formulas[slot]; }
+
     /// The compressibility factor of the vapor at the set point.
     double Compressibility() const;
+
+    /// Where the formulas of a state hold, for a fluid that has them.
+    TemperatureRange LiquidTemperatures() const { return {m_liquidMinTemp, m_liquidMaxTemp}; }
+    TemperatureRange VaporTemperatures() const { return {m_vaporMinTemp, m_vaporMaxTemp}; }
+    /// kPa absolute.
+    double HighestVaporPressure() const { return m_vaporMaxPres; }
 
     /// "0.01 to 201.85 °C", for a fluid with liquid formulas.
     std::string LiquidRange() const;
@@ -53,6 +68,9 @@ class TableFluid : public CFluid {
     std::string TooCold(const char* what, double limitK) const;
     std::string TooHot(const char* what, double limitK) const;
 };
+
+/// The name of an equation of state by the library's number.
+const char* EquationName(int equation);
 
 /// "psi absolute" and the like.
 std::string AbsoluteUnit(const Units& units);

@@ -3,14 +3,13 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <fstream>
 #include <iterator>
 #include <string>
 #include <tuple>
 
-#include "tools/Failure.h"
 #include "tools/Names.h"
 #include "tools/Platform.h"
+#include "tools/WholeFile.h"
 #include "tools/check/FluidTableCheck.h"
 #include "tools/check/PipeTableCheck.h"
 #include "tools/check/ValveTableCheck.h"
@@ -34,17 +33,6 @@ constexpr Kind kKinds[] = {
     {TableFileKind::Pipe, ".PTBL", CheckPipeTable},
     {TableFileKind::Valve, ".VTBL", CheckValveTable},
 };
-
-std::string ReadWhole(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::error_code error;
-    if (!stream || !fs::is_regular_file(file, error)) {
-        throw Failure(Utf8FromPath(file) + ": the file can't be read");
-    }
-    std::string text(std::istreambuf_iterator<char>(stream), {});
-    if (stream.bad()) throw Failure(Utf8FromPath(file) + ": the file can't be read");
-    return text;
-}
 
 // The file that the library opens is the one whose extension is in capitals, if there are two.
 bool IsHidden(const fs::path& file, const Kind& kind) {
@@ -106,7 +94,7 @@ std::optional<TableFileKind> KindOf(const fs::path& file) {
 }
 
 std::vector<Finding> CheckTableFile(const fs::path& file, TableFileKind kind) {
-    const std::string text = ReadWhole(file);
+    const std::string text = ReadWholeFile(file);
     const Kind& entry = *std::find_if(std::begin(kKinds), std::end(kKinds),
                                       [kind](const Kind& row) { return row.kind == kind; });
     Findings findings;
