@@ -8,10 +8,21 @@
 #include <cstring>
 #include <memory>
 
+#include "win32/Error.h"
+
 namespace {
 
 const win32::Resource* ToResource(const void* handle) {
     return static_cast<const win32::Resource*>(handle);
+}
+
+bool IsNumber(LPCSTR name) {
+    constexpr UINT_PTR kFirstAddress = 0x10000;
+    return reinterpret_cast<UINT_PTR>(name) < kFirstAddress;
+}
+
+bool IsSameType(LPCSTR a, LPCSTR b) {
+    return IsNumber(a) || IsNumber(b) ? a == b : std::strcmp(a, b) == 0;
 }
 
 std::string ProgramPath() {
@@ -49,13 +60,17 @@ DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size) {
 }
 
 HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type) {
-    if (module == nullptr) return nullptr;
-    for (const win32::Resource& resource : reinterpret_cast<win32::Module*>(module)->resources) {
-        if (reinterpret_cast<UINT_PTR>(name) == resource.id &&
-            std::strcmp(type, resource.type) == 0) {
+    const auto* known = reinterpret_cast<const win32::Module*>(module);
+    DWORD error = ERROR_RESOURCE_TYPE_NOT_FOUND;
+    const auto resources = known == nullptr ? std::span<const win32::Resource>() : known->resources;
+    for (const win32::Resource& resource : resources) {
+        if (!IsSameType(type, resource.type)) continue;
+        error = ERROR_RESOURCE_NAME_NOT_FOUND;
+        if (reinterpret_cast<UINT_PTR>(name) == resource.id) {
             return reinterpret_cast<HRSRC>(const_cast<win32::Resource*>(&resource));
         }
     }
+    SetLastError(error);
     return nullptr;
 }
 

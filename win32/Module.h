@@ -14,7 +14,7 @@ namespace win32 {
 
 /// One resource, embedded by the build.
 struct Resource {
-    LPCSTR type;
+    LPCSTR type;  ///< a text, or a number made with MAKEINTRESOURCEA
     WORD id;
     WORD language;
     const unsigned char* data;
@@ -37,11 +37,19 @@ inline HINSTANCE ToHandle(Module* module) { return reinterpret_cast<HINSTANCE>(m
 // NOLINTNEXTLINE(performance-no-int-to-ptr)
 inline LPSTR MAKEINTRESOURCEA(WORD id) { return reinterpret_cast<LPSTR>(UINT_PTR{id}); }
 
+inline const LPSTR RT_BITMAP = MAKEINTRESOURCEA(2);
+inline const LPSTR RT_DIALOG = MAKEINTRESOURCEA(5);
+
+/// The handle of the running program, which has no resources here: null. Other modules give theirs
+/// themselves.
+inline HMODULE GetModuleHandleA(LPCSTR) { return nullptr; }
+
 /// Writes the path of the module (null: of the program), cut to `size` bytes with its terminator.
 /// Returns the number of characters written, `size` if the path was cut, 0 on failure.
 DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size);
 
-/// Finds a resource by number (MAKEINTRESOURCEA) and type; null if the module has no such one.
+/// Finds a resource by number (MAKEINTRESOURCEA) and type; null, with the error 1814, if the module
+/// has no such one, 1813 if it has none of the type.
 HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
 HGLOBAL LoadResource(HMODULE module, HRSRC resource);
 LPVOID LockResource(HGLOBAL loaded);

@@ -20,11 +20,24 @@
 
 #else
 
+#include "win32/Button.h"
+#include "win32/ComboBox.h"
+#include "win32/Dialog.h"
+#include "win32/Edit.h"
+#include "win32/Error.h"
 #include "win32/File.h"
 #include "win32/FileSearch.h"
+#include "win32/ImageList.h"
+#include "win32/Keyboard.h"
+#include "win32/ListBox.h"
+#include "win32/MessageQueue.h"
 #include "win32/Module.h"
+#include "win32/Static.h"
 #include "win32/Text.h"
+#include "win32/TreeView.h"
 #include "win32/Types.h"
+#include "win32/View.h"
+#include "win32/Window.h"
 
 #endif
 

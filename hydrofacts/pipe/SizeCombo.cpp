@@ -5,9 +5,6 @@
 
 namespace hydrofacts {
 
-// Only Windows has windows to send to: elsewhere every handle is null.
-#ifdef _WIN32
-
 HWND SizeCombo::In(HWND dialog) {
     constexpr int kSizeCombo = 10104;
     return GetDlgItem(dialog, kSizeCombo);
@@ -22,15 +19,5 @@ void SizeCombo::Add(char* size) const {
     const char* text = Language().Number(size);
     SendMessageA(combo_, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
 }
-
-#else
-
-HWND SizeCombo::In(HWND) { return nullptr; }
-
-void SizeCombo::Clear() const {}
-
-void SizeCombo::Add(char*) const {}
-
-#endif
 
 }  // namespace hydrofacts

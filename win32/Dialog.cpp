@@ -1,0 +1,171 @@
+#include "win32/Dialog.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "win32/DialogModel.h"
+#include "win32/DialogTemplate.h"
+#include "win32/Error.h"
+#include "win32/Module.h"
+#include "win32/Queue.h"
+
+namespace {
+
+using win32::Birth;
+using win32::Dialog;
+using win32::TemplateItem;
+using win32::ThisThread;
+
+// The font of dialogs, 8 point "MS Shell Dlg" at 96 dots an inch: mean width and height in pixels.
+constexpr LONG kBaseWidth = 6;
+constexpr LONG kBaseHeight = 13;
+
+RECT ToPixels(const RECT& units) {
+    const auto x = [](LONG value) { return value * kBaseWidth / 4; };
+    const auto y = [](LONG value) { return value * kBaseHeight / 8; };
+    return {x(units.left), y(units.top), x(units.right), y(units.bottom)};
+}
+
+Birth BirthOf(const TemplateItem& item, HWND parent, HINSTANCE module) {
+    return {parent, item.style, item.exStyle, item.text, ToPixels(item.place), item.id, module};
+}
+
+bool MakeControls(Dialog& dialog, const std::vector<TemplateItem>& controls) {
+    for (const TemplateItem& item : controls) {
+        Birth birth = BirthOf(item, dialog.Self(), dialog.module);
+        birth.style |= WS_CHILD;
+        const HWND control = win32::MakeControl(item.className, birth);
+        if (control == nullptr) {
+            SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
+            return false;
+        }
+        if (dialog.defaultId == 0 &&
+            (SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0) {
+            dialog.defaultId = static_cast<WORD>(item.id);
+        }
+    }
+    return true;
+}
+
+/// Makes a dialog up to its WM_INITDIALOG, hidden; null if that fails or the dialog ends itself.
+std::shared_ptr<Dialog> Make(const void* data, std::size_t size, HINSTANCE module, HWND parent,
+                             DLGPROC procedure, LPARAM parameter) {
+    const auto description = win32::ReadTemplate(data, size);
+    if (!description) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    Birth birth = BirthOf(description->dialog, parent, module);
+    birth.style &= ~WS_VISIBLE;
+    const auto dialog = std::make_shared<Dialog>(birth, procedure);
+    const HWND self = win32::Register(dialog);
+    if (!MakeControls(*dialog, description->controls)) {
+        DestroyWindow(self);
+        return nullptr;
+    }
+    const HWND first = GetNextDlgTabItem(self, nullptr, FALSE);
+    const LRESULT focus =
+        SendMessageA(self, WM_INITDIALOG, reinterpret_cast<WPARAM>(first), parameter);
+    if (!dialog->Alive()) return nullptr;
+    if (focus != FALSE && !dialog->ended) {
+        // The procedure may have changed which control comes first.
+        if (const HWND control = GetNextDlgTabItem(self, nullptr, FALSE)) {
+            win32::FocusControl(control);
+        }
+    }
+    const bool visible = (description->dialog.style & WS_VISIBLE) != 0;
+    if (visible && !dialog->ended && dialog->Alive()) ShowWindow(self, SW_SHOWNORMAL);
+    return dialog->Alive() ? dialog : nullptr;
+}
+
+struct Found {
+    const void* data = nullptr;
+    std::size_t size = 0;
+};
+
+Found FindTemplate(HINSTANCE module, LPCSTR name) {
+    const HRSRC resource = FindResourceA(module, name, RT_DIALOG);
+    if (resource == nullptr) return {};
+    return {LockResource(LoadResource(module, resource)), SizeofResource(module, resource)};
+}
+
+/// Runs the dialog's own message loop. `quit` becomes true if the loop around is to end too.
+void RunLoop(Dialog& dialog, bool& quit) {
+    win32::ThreadState& thread = ThisThread();
+    while (!dialog.ended && dialog.Alive()) {
+        MSG message;
+        const auto next = thread.queue->Get(message, {}, thread.view);
+        if (next != win32::Queue::Next::kMessage) {
+            quit = next == win32::Queue::Next::kQuit;
+            if (quit) PostQuitMessage(static_cast<int>(message.wParam));
+            dialog.result = -1;
+            return;
+        }
+        if (IsDialogMessageA(dialog.Self(), &message) == FALSE) {
+            TranslateMessage(&message);
+            DispatchMessageA(&message);
+        }
+    }
+}
+
+INT_PTR Run(Found found, HINSTANCE module, HWND parent, DLGPROC procedure, LPARAM parameter) {
+    if (parent != nullptr && IsWindow(parent) == FALSE) return 0;
+    const HWND owner = parent == nullptr ? nullptr : GetAncestor(parent, GA_ROOT);
+    const auto dialog = Make(found.data, found.size, module, owner, procedure, parameter);
+    if (!dialog) return -1;
+    const bool ownerWasEnabled = owner != nullptr && EnableWindow(owner, FALSE) == FALSE;
+    bool quit = false;
+    if (!dialog->ended) {
+        ShowWindow(dialog->Self(), SW_SHOWNORMAL);
+        RunLoop(*dialog, quit);
+    }
+    if (ownerWasEnabled) EnableWindow(owner, TRUE);
+    if (dialog->Alive()) DestroyWindow(dialog->Self());
+    return dialog->result;
+}
+
+constexpr std::size_t kUnknownSize = std::numeric_limits<std::size_t>::max();
+
+}  // namespace
+
+HWND CreateDialogIndirectParamA(HINSTANCE module, LPCDLGTEMPLATEA dialogTemplate, HWND parent,
+                                DLGPROC procedure, LPARAM parameter) {
+    const auto dialog = Make(dialogTemplate, kUnknownSize, module, parent, procedure, parameter);
+    return dialog ? dialog->Self() : nullptr;
+}
+
+HWND CreateDialogParamA(HINSTANCE module, LPCSTR name, HWND parent, DLGPROC procedure,
+                        LPARAM parameter) {
+    const Found found = FindTemplate(module, name);
+    if (found.data == nullptr) return nullptr;
+    const auto dialog = Make(found.data, found.size, module, parent, procedure, parameter);
+    return dialog ? dialog->Self() : nullptr;
+}
+
+INT_PTR DialogBoxIndirectParamA(HINSTANCE module, LPCDLGTEMPLATEA dialogTemplate, HWND parent,
+                                DLGPROC procedure, LPARAM parameter) {
+    return Run({dialogTemplate, kUnknownSize}, module, parent, procedure, parameter);
+}
+
+INT_PTR DialogBoxParamA(HINSTANCE module, LPCSTR name, HWND parent, DLGPROC procedure,
+                        LPARAM parameter) {
+    const Found found = FindTemplate(module, name);
+    if (found.data == nullptr) return -1;
+    return Run(found, module, parent, procedure, parameter);
+}
+
+BOOL EndDialog(HWND dialog, INT_PTR result) {
+    const auto found = win32::FindAs<Dialog>(dialog);
+    if (!found) return FALSE;
+    found->ended = true;
+    found->result = result;
+    if (IsChild(dialog, GetFocus()) != FALSE) SetFocus(dialog);
+    ShowWindow(dialog, SW_HIDE);
+    return TRUE;
+}
+
+BOOL MapDialogRect(HWND dialog, LPRECT place) {
+    if (!win32::FindAs<Dialog>(dialog)) return FALSE;
+    *place = ToPixels(*place);
+    return TRUE;
+}

@@ -1,0 +1,34 @@
+#ifndef WIN32_VIEW_H
+#define WIN32_VIEW_H
+
+// What a program implements that draws the windows of a thread with a toolkit and brings the user's
+// keys and clicks. Without a view everything works as well, unseen.
+
+#include "win32/Window.h"
+
+namespace win32 {
+
+/// Watches the windows of the thread that has set it. It must not destroy windows from within these
+/// calls.
+class HYDROFACTS_API View {
+  public:
+    virtual ~View();
+
+    /// A window is complete, or shows something else: text, rows, selection, state, place.
+    virtual void Created(HWND window) = 0;
+    virtual void Changed(HWND window) = 0;
+    /// The handle is void already.
+    virtual void Destroyed(HWND window) = 0;
+
+    /// Lets the toolkit work, for `milliseconds` at most, until it has put a message into the
+    /// queue. False if no user can bring one any more: message loops end then.
+    virtual bool Wait(DWORD milliseconds) = 0;
+};
+
+/// Sets the view of this thread, null for none; gives the former one. The view has to outlive its
+/// use.
+HYDROFACTS_API View* SetView(View* view);
+
+}  // namespace win32
+
+#endif
