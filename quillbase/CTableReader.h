@@ -17,7 +17,8 @@ class CTableReader {
 
     const quillbase::CellTable& Cells() const { return cells_; }
 
-    /// Fills a list control with the items of a text; both flags are not used.
+    /// Puts the items of a text into a list box in place of its rows, one row an item that isn't
+    /// empty; sorting is the list box's. Both flags are not used.
     static void Fill(bool, HWND list, const char* items, char delimiter, bool);
 
   private:

@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <string>
 
+#include "win32/Thread.h"
+
 namespace {
 
 // A handle is the file descriptor itself: opening a table must not cost an allocation.
@@ -85,7 +87,13 @@ BOOL WriteFile(HANDLE file, const void* buffer, DWORD size, DWORD* done, void*) 
 
 BOOL FlushFileBuffers(HANDLE file) { return ::fsync(ToDescriptor(file)) == 0 ? TRUE : FALSE; }
 
-BOOL CloseHandle(HANDLE file) { return ::close(ToDescriptor(file)) == 0 ? TRUE : FALSE; }
+BOOL CloseHandle(HANDLE handle) {
+    if (win32::IsThread(handle)) {
+        win32::CloseThread(handle);
+        return TRUE;
+    }
+    return ::close(ToDescriptor(handle)) == 0 ? TRUE : FALSE;
+}
 
 BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags) {
     if ((flags & MOVEFILE_REPLACE_EXISTING) == 0 && ::access(to, F_OK) == 0) return FALSE;

@@ -44,7 +44,8 @@ BOOL WriteFile(HANDLE file, const void* buffer, DWORD size, DWORD* done, void* o
 /// Returns when what was written has reached the disk.
 BOOL FlushFileBuffers(HANDLE file);
 
-BOOL CloseHandle(HANDLE file);
+/// Of a file, or of a thread (see Thread.h).
+BOOL CloseHandle(HANDLE handle);
 
 /// Renames a file; with MOVEFILE_REPLACE_EXISTING it takes the place of `to` in one step.
 BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags);

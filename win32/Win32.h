@@ -34,6 +34,7 @@
 #include "win32/Module.h"
 #include "win32/Static.h"
 #include "win32/Text.h"
+#include "win32/Thread.h"
 #include "win32/TreeView.h"
 #include "win32/Types.h"
 #include "win32/View.h"

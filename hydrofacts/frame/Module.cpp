@@ -1,22 +1,25 @@
 // What happens when a process loads and lets go the library, and the objects that live as long as
 // it is loaded. They stand in this one file because the order in which they are built matters: the
-// language, the shared unit object, and last the entry that attaches.
+// language, the names of fluid tables, the shared unit object, and last the entry that attaches.
 
 #include "hydrofacts/frame/Module.h"
 
 #include <memory>
 #include <string>
 
+#include "hydrofacts/dialogs/FluidNames.h"
 #include "hydrofacts/resources/Resources.h"
 #include "hydrofacts/units/Units.h"
 #include "quillbase/CLanguage.h"
 #include "quillbase/CTableReader.h"
+#include "quillbase/DialogItems.h"
 #include "quillbase/LibraryPlace.h"
 #include "win32/Win32.h"
 
 namespace {
 
 CLanguage languageObject;
+const auto fluidTableCache = std::make_shared<hydrofacts::FluidNames>();
 
 }  // namespace
 
@@ -37,9 +40,13 @@ void Attach(HINSTANCE module) {
     tableReader = std::make_unique<CTableReader>(path.c_str(), '\t', nullptr, nullptr);
     if (!tableReader->Valid()) tableReader.reset();
     languageObject.Attach(module, tableReader.get());
+    quillbase::SetNumberLanguage(&languageObject);
 }
 
-void Detach() { tableReader.reset(); }
+void Detach() {
+    quillbase::SetNumberLanguage(nullptr);
+    tableReader.reset();
+}
 
 WIN32_MODULE_ENTRY(Attach, Detach, hydrofacts::Resources());
 
@@ -50,5 +57,7 @@ namespace hydrofacts {
 HINSTANCE ModuleHandle() { return moduleHandle; }
 
 CLanguage& Language() { return languageObject; }
+
+std::shared_ptr<FluidNames> FluidTableCache() { return fluidTableCache; }
 
 }  // namespace hydrofacts

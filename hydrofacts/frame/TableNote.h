@@ -3,8 +3,9 @@
 
 #include "win32/Win32.h"
 
-/// Shows a table's title and version in a control of a dialog, as "title - vers version"; empties
-/// the control if the file has no title line. Does nothing if the dialog has no such control.
+/// Shows a table's title and version in a control of a dialog, as "title - vers version", from the
+/// first two lines of the file; empties the control if the first is no title line. Lines are read
+/// up to 100 characters. Does nothing if the dialog has no such control.
 void ShowTableNote(const char* path, HWND dialog, int control);
 
 #endif

@@ -1,0 +1,37 @@
+#ifndef WIN32_THREAD_H
+#define WIN32_THREAD_H
+
+// Threads: start one, wait for its end. CloseHandle gives the handle back; the thread goes on.
+
+#include <cstddef>
+
+#include "win32/Types.h"
+
+using LPTHREAD_START_ROUTINE = DWORD(WINAPI*)(void*);
+
+inline constexpr DWORD INFINITE = 0xFFFFFFFFU;
+inline constexpr DWORD WAIT_OBJECT_0 = 0;
+inline constexpr DWORD WAIT_TIMEOUT = 258;
+inline constexpr DWORD WAIT_FAILED = 0xFFFFFFFFU;
+
+/// Runs `procedure(parameter)` on a thread of its own, with the default stack size; the other
+/// arguments are not used. Null if the system gives no thread.
+HANDLE CreateThread(void* security, std::size_t stackSize, LPTHREAD_START_ROUTINE procedure,
+                    void* parameter, DWORD flags, DWORD* id);
+
+/// Waits until a thread has ended, so that nothing of it runs any more: WAIT_OBJECT_0, or
+/// WAIT_TIMEOUT after `milliseconds`; WAIT_FAILED if the handle is none of a thread. From one
+/// thread at a time.
+DWORD WaitForSingleObject(HANDLE thread, DWORD milliseconds);
+
+namespace win32 {
+
+/// Whether a handle is that of a thread.
+bool IsThread(HANDLE handle);
+
+/// What CloseHandle does with the handle of a thread.
+void CloseThread(HANDLE thread);
+
+}  // namespace win32
+
+#endif
