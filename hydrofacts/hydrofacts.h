@@ -3,6 +3,8 @@
 
 /// All public headers of Hydrofacts.
 
+#include "hydrofacts/dialogs/CFluidDlg.h"
+#include "hydrofacts/dialogs/FluidTableCache.h"
 #include "hydrofacts/fluid/CFluid.h"
 #include "hydrofacts/formula/CFormula.h"
 #include "hydrofacts/frame/Language.h"
@@ -13,5 +15,7 @@
 #include "hydrofacts/units/Units.h"
 #include "hydrofacts/valve/CValveTable.h"
 #include "quillbase/Directory.h"
+#include "win32/DialogBuilder.h"
+#include "win32/User.h"
 
 #endif
