@@ -32,6 +32,7 @@ void AddCommands(CLI::App& app, Options& options) {
     AddFluidsCommand(app, options);
     AddFluidCommand(app, options);
     AddTableCommand(app, options);
+    AddPlotCommand(app, options);
     AddPipesCommand(app, options);
     AddPipeCommand(app, options);
     AddValvesCommand(app, options);

@@ -35,6 +35,7 @@ void AddPipeCommand(CLI::App& app, Options& options);
 void AddValvesCommand(CLI::App& app, Options& options);
 void AddValveCommand(CLI::App& app, Options& options);
 void AddTableCommand(CLI::App& app, Options& options);
+void AddPlotCommand(CLI::App& app, Options& options);
 void AddConvertCommand(CLI::App& app, Options& options);
 void AddCheckCommand(CLI::App& app, Options& options);
 void AddUnitsCommand(CLI::App& app, Options& options);

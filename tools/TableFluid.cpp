@@ -26,6 +26,11 @@ void TableFluid::MoveTo(double temperature, double pressure) {
     m_state = FindFluidState(temperature, pressure);
 }
 
+double TableFluid::FormulaAt(FORMULASLOT slot, double kelvin, double kPa) const {
+    return m_formulas[slot].CalcResult(kelvin, kPa, m_molecularWt, KTemp(m_criticalTemp),
+                                       kPaPres(m_criticalPres, 1));
+}
+
 double TableFluid::Compressibility() const {
     return m_formulas[SLOT_VAPOR_DENSITY].CalcZ(KTemp(m_temperature), kPaPres(m_pressure, 0),
                                                 KTemp(m_criticalTemp));
@@ -143,10 +148,8 @@ std::string TableFluid::WhyBetween() const {
 }
 
 // Absolute, in the user's unit, rounded as the library compares it with the set point.
-double TableFluid::Saturation(int slot) const {
-    return UserPres(m_formulas[slot].CalcResult(KTemp(m_temperature), 0.0, m_molecularWt,
-                                                KTemp(m_criticalTemp), kPaPres(m_criticalPres, 1)),
-                    1);
+double TableFluid::Saturation(FORMULASLOT slot) const {
+    return UserPres(FormulaAt(slot, KTemp(m_temperature), 0.0), 1);
 }
 
 std::string TableFluid::TemperatureText(double kelvin) const {

@@ -35,6 +35,10 @@ class TableFluid : public CFluid {
     /// The formula of a slot as it was loaded.
     const CFormula& Formula(FORMULASLOT slot) const { return m_formulas[slot]; }
 
+    /// What a formula gives at a temperature (K) and pressure (kPa absolute), in its own unit,
+    /// whatever the range.
+    double FormulaAt(FORMULASLOT slot, double kelvin, double kPa) const;
+
     /// The compressibility factor of the vapor at the set point.
     double Compressibility() const;
 
@@ -58,7 +62,7 @@ class TableFluid : public CFluid {
     std::string WhyBetween() const;
     FLUIDSTATE StateWithoutRanges() const;
 
-    double Saturation(int slot) const;
+    double Saturation(FORMULASLOT slot) const;
     std::string Range(double minK, double maxK) const;
     std::string TemperatureText(double kelvin) const;
     std::string PressureText(double kPa) const;
