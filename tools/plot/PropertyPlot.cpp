@@ -125,9 +125,14 @@ class PlotMaker {
     std::string WhyNothing() const {
         std::string states = m_property.ofLiquid && Wants("liquid") ? "liquid" : "";
         if (m_property.ofVapor && Wants("vapor")) states += states.empty() ? "vapor" : " or vapor";
-        return states.empty()
-                   ? fmt::format("{} is not a property of a {}", m_property.words, m_request.state)
-                   : fmt::format("the table of {} has no {} formulas", m_name, states);
+        if (states.empty() && !IsVaporPressure()) {
+            return fmt::format("{} is not a property of a {}", m_property.words, m_request.state);
+        }
+        if (m_request.deviation) {
+            return fmt::format("there are no check points of the {} of {}", m_property.words,
+                               m_name);
+        }
+        return fmt::format("the table of {} has no {} formulas", m_name, states);
     }
 
     Panel NewPanel(const std::string& what) const {
