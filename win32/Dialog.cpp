@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "win32/DialogModel.h"
 #include "win32/DialogTemplate.h"
@@ -89,15 +90,21 @@ Found FindTemplate(HINSTANCE module, LPCSTR name) {
     return {LockResource(LoadResource(module, resource)), SizeofResource(module, resource)};
 }
 
-/// Runs the dialog's own message loop. `quit` becomes true if the loop around is to end too.
-void RunLoop(Dialog& dialog, bool& quit) {
+void EnableOwner(Dialog& dialog) {
+    const HWND owner = std::exchange(dialog.disabledOwner, nullptr);
+    if (owner != nullptr) EnableWindow(owner, TRUE);
+}
+
+/// Runs the dialog's own message loop. WM_QUIT ends it and is left for the loop around.
+void RunLoop(Dialog& dialog) {
     win32::ThreadState& thread = ThisThread();
     while (!dialog.ended && dialog.Alive()) {
         MSG message;
         const auto next = thread.queue->Get(message, {}, thread.view);
         if (next != win32::Queue::Next::kMessage) {
-            quit = next == win32::Queue::Next::kQuit;
-            if (quit) PostQuitMessage(static_cast<int>(message.wParam));
+            if (next == win32::Queue::Next::kQuit) {
+                PostQuitMessage(static_cast<int>(message.wParam));
+            }
             dialog.result = -1;
             return;
         }
@@ -113,13 +120,14 @@ INT_PTR Run(Found found, HINSTANCE module, HWND parent, DLGPROC procedure, LPARA
     const HWND owner = parent == nullptr ? nullptr : GetAncestor(parent, GA_ROOT);
     const auto dialog = Make(found.data, found.size, module, owner, procedure, parameter);
     if (!dialog) return -1;
-    const bool ownerWasEnabled = owner != nullptr && EnableWindow(owner, FALSE) == FALSE;
-    bool quit = false;
     if (!dialog->ended) {
+        // The owner remembers its focus as it is deactivated, so that comes before it is disabled.
+        SetActiveWindow(dialog->Self());
+        if (owner != nullptr && EnableWindow(owner, FALSE) == FALSE) dialog->disabledOwner = owner;
         ShowWindow(dialog->Self(), SW_SHOWNORMAL);
-        RunLoop(*dialog, quit);
+        RunLoop(*dialog);
     }
-    if (ownerWasEnabled) EnableWindow(owner, TRUE);
+    EnableOwner(*dialog);
     if (dialog->Alive()) DestroyWindow(dialog->Self());
     return dialog->result;
 }
@@ -160,6 +168,8 @@ BOOL EndDialog(HWND dialog, INT_PTR result) {
     found->ended = true;
     found->result = result;
     if (IsChild(dialog, GetFocus()) != FALSE) SetFocus(dialog);
+    // The activation goes back to the owner, which has to be able to take it.
+    EnableOwner(*found);
     ShowWindow(dialog, SW_HIDE);
     return TRUE;
 }
