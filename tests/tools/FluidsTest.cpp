@@ -71,8 +71,8 @@ TEST_F(CommandRunner, FindsTheTablesThatItWasBuiltWith) {
 }
 
 TEST_F(CommandRunner, HelpsAndRefuses) {
-    for (const char* command : {"", "fluids", "fluid", "pipes", "pipe", "valves", "valve",
-                                "convert", "units", "elevation", "check"}) {
+    for (const char* command : {"", "fluids", "fluid", "table", "plot", "pipes", "pipe", "valves",
+                                "valve", "convert", "units", "elevation", "check"}) {
         const Outcome outcome = Run(std::string(command) + " --help");
         EXPECT_EQ(outcome.status, 0) << command;
         EXPECT_THAT(outcome.out, HasSubstr("Examples:\n  hydrofacts ")) << command;
