@@ -14,9 +14,10 @@ namespace {
 // Spares most of the text's regrowth while a directory of usual size is scanned.
 constexpr std::size_t kUsualSize = 512;
 
+// A name with a tab would be two in the list.
 bool CanBeListed(std::string_view name) {
-    return name.size() <= hydrofacts::kLongestListedName &&
-           name.find('\t') == std::string_view::npos;  // it would be two names in the list
+    return !name.empty() && name.size() <= hydrofacts::kLongestListedName &&
+           name.find('\t') == std::string_view::npos;
 }
 
 }  // namespace
