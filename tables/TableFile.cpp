@@ -4,25 +4,21 @@
 
 #include <algorithm>
 #include <span>
+#include <vector>
 
 #include "hydrofacts/formula/Constants.h"
 #include "tables/Numbers.h"
+#include "tables/TableLines.h"
 #include "tables/VaporDensity.h"
 
 namespace hydrofacts::tables {
 namespace {
 
-constexpr std::size_t kLongestLine = 258;      // characters, with a carriage return 259
-constexpr std::size_t kLongestHeadLine = 100;  // shown in a dialog
-constexpr const char* kVersion = "1.0";
-// Every host's limits of levels let the tables pass: 1 for the lowest, 7 for the highest.
-constexpr const char* kLevels = "1\t7";
+constexpr std::size_t kLongestLine = 258;  // characters, with a carriage return 259
 
-bool IsPlain(char c) { return c >= ' ' && c <= '~'; }
-
-// "* Against 12 points of SOURCE that the fit has not seen".
+// "Against 12 points of SOURCE that the fit has not seen".
 std::string Against(const std::string& source, std::size_t count, const char* what, bool fitted) {
-    return fmt::format("* Against {} {}{} of {}{}", count, what, count == 1 ? "" : "s", source,
+    return fmt::format("Against {} {}{} of {}{}", count, what, count == 1 ? "" : "s", source,
                        fitted ? " that the fit has not seen" : "");
 }
 
@@ -37,7 +33,8 @@ std::string Figures(const Deviation& deviation) {
 
 class TableWriter {
   public:
-    explicit TableWriter(const FluidTable& table) : m_table(table) {}
+    explicit TableWriter(const FluidTable& table)
+        : m_table(table), m_lines(table.name + ".FTBL", kLongestLine) {}
 
     std::string Text() {
         WriteHead();
@@ -49,29 +46,15 @@ class TableWriter {
         WriteEquationOfState();
         WriteFormula(6, Property::GasViscosity, "Gas viscosity at low pressure");
         WriteFormula(7, Property::GasHeatCapacity, "Heat capacity of the ideal gas");
-        return std::move(m_text);
+        return m_lines.Text();
     }
 
   private:
-    void Line(const std::string& line, std::size_t longest = kLongestLine) {
-        if (line.size() > longest) {
-            throw DesignError("a line of the table is too long: " + line);
-        }
-        // The data are UTF-8, tables Windows-1252: what is the same in both is safe.
-        if (!std::all_of(line.begin(), line.end(),
-                         [](char c) { return c == '\t' || IsPlain(c); })) {
-            throw DesignError("a line of the table is not plain ASCII: " + line);
-        }
-        m_text += line;
-        m_text += "\r\n";
-    }
-
     void WriteHead() {
         const char* const states = !m_table.vapor    ? "liquid"
                                    : !m_table.liquid ? "vapor"
                                                      : "liquid and vapor";
-        Line(fmt::format("S\t\"{}, {}\"", m_table.name, states), kLongestHeadLine);
-        Line(fmt::format("V\t\"{}\"\tHydrofacts\t{}", kVersion, kLevels), kLongestHeadLine);
+        m_lines.Head(fmt::format("{}, {}", m_table.name, states));
     }
 
     void WriteConstants() {
@@ -82,36 +65,36 @@ class TableWriter {
         // A fluid without vapor formulas needs a pressure in the last field too.
         const double maxPressure =
             m_table.vapor ? m_table.vaporDensity.maxPressure : constants.criticalPressure;
-        Line(fmt::format("* Constants: {}.", constants.source));
-        Line(
-            "* Molecular weight (kg/kmol), critical temperature (K) and pressure (kPa), liquid "
-            "from "
+        m_lines.Remark(fmt::format("Constants: {}.", constants.source));
+        m_lines.Remark(
+            "Molecular weight (kg/kmol), critical temperature (K) and pressure (kPa), liquid from "
             "and to (K), vapor from and to (K), vapor up to (kPa).");
-        std::string record = "D";
+        std::vector<std::string> record = {"D"};
         for (const double value :
              {constants.molecularWeight, constants.criticalTemperature, constants.criticalPressure,
               liquid.min, liquid.max, vapor.min, vapor.max, maxPressure}) {
-            record += fmt::format("\t{}", ExactNumber(value));
+            record.push_back(ExactNumber(value));
         }
-        Line(record);
+        m_lines.Record(record);
     }
 
     void WriteDeviation(Property property, const ChosenFormula& formula) {
         if (formula.checkSource.empty()) {
-            Line("* Not compared: there are no check data.");
+            m_lines.Remark("Not compared: there are no check data.");
             return;
         }
         const Deviation& deviation = formula.deviation;
         if (deviation.count == 0) {
-            Line("* Not compared: there are no check data in its range.");
+            m_lines.Remark("Not compared: there are no check data in its range.");
         } else {
-            Line(fmt::format("{}, {}: {}.",
-                             Against(formula.checkSource, deviation.count, "point", formula.fitted),
-                             Kelvins(deviation.range), Figures(deviation)));
+            m_lines.Remark(
+                fmt::format("{}, {}: {}.",
+                            Against(formula.checkSource, deviation.count, "point", formula.fitted),
+                            Kelvins(deviation.range), Figures(deviation)));
         }
         const auto above = m_table.aboveLiquid.find(property);
         if (above != m_table.aboveLiquid.end() && above->second.count > 0) {
-            Line(fmt::format(
+            m_lines.Remark(fmt::format(
                 "{}, above the liquid range, {}: {}.",
                 Against(formula.checkSource, above->second.count, "point", formula.fitted),
                 Kelvins(above->second.range), Figures(above->second)));
@@ -121,46 +104,48 @@ class TableWriter {
     void WriteFormula(int number, Property property, const char* title) {
         const auto found = m_table.formulas.find(property);
         if (found == m_table.formulas.end()) {
-            Line(fmt::format("P{}\t0", number));
+            m_lines.Record({fmt::format("P{}", number), "0"});
             return;
         }
-        Line(fmt::format("* {}: {}.", title, found->second.source));
+        m_lines.Remark(fmt::format("{}: {}.", title, found->second.source));
         WriteDeviation(property, found->second);
         const CFormula& formula = found->second.formula;
-        std::string record = fmt::format("P{}\t{}", number, formula.m_type);
+        std::vector<std::string> record = {fmt::format("P{}", number),
+                                           std::to_string(formula.m_type)};
         // Coefficients of zero at the end may be left out; a library of tables loads faster
         // without.
         const std::span<const double> all = formula.m_coefficients;
         const auto last = std::find_if(all.rbegin(), all.rend(), [](double c) { return c != 0.0; });
         for (const double coefficient : all.first(static_cast<std::size_t>(all.rend() - last))) {
-            record += fmt::format("\t{}", ExactNumber(coefficient));
+            record.push_back(ExactNumber(coefficient));
         }
-        Line(record);
+        m_lines.Record(record);
     }
 
     void WriteEquationOfState() {
         if (!m_table.vapor) {
-            Line("P5\t0");
+            m_lines.Record({"P5", "0"});
             return;
         }
         const VaporDensity& vapor = m_table.vaporDensity;
-        Line(fmt::format("* Vapor density: {}{}{}.", EquationName(vapor.equation),
-                         vapor.reason.empty() ? "" : "; ", vapor.reason));
+        m_lines.Remark(fmt::format("Vapor density: {}{}{}.", EquationName(vapor.equation),
+                                   vapor.reason.empty() ? "" : "; ", vapor.reason));
         if (vapor.checkSource.empty()) {
-            Line("* Not compared: there are no check data in its range.");
+            m_lines.Remark("Not compared: there are no check data in its range.");
         } else {
-            Line(fmt::format("{}, {}: {} (the largest at {} kPa).",
-                             Against(vapor.checkSource, vapor.deviation.count, "state", false),
-                             Kelvins(vapor.deviation.range), Figures(vapor.deviation),
-                             RoundedNumber(vapor.largestAtPressure, 3)));
+            m_lines.Remark(
+                fmt::format("{}, {}: {} (the largest at {} kPa).",
+                            Against(vapor.checkSource, vapor.deviation.count, "state", false),
+                            Kelvins(vapor.deviation.range), Figures(vapor.deviation),
+                            RoundedNumber(vapor.largestAtPressure, 3)));
         }
         // The loader works out the other coefficients.
-        Line(fmt::format("P5\t{}\t{}", vapor.equation,
-                         ExactNumber(m_table.constants.acentricFactor)));
+        m_lines.Record(
+            {"P5", std::to_string(vapor.equation), ExactNumber(m_table.constants.acentricFactor)});
     }
 
     const FluidTable& m_table;
-    std::string m_text;
+    TableLines m_lines;
 };
 
 }  // namespace

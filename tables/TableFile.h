@@ -8,8 +8,7 @@
 namespace hydrofacts::tables {
 
 /// The text of a fluid's table file: head lines, remarks with the source and the measured deviation
-/// of each formula, and the nine records. Line ends are CR LF. Throws DesignError for a line that
-/// is too long for the readers of tables.
+/// of each formula, and the nine records. Throws InputError for what no table can hold.
 std::string TableText(const FluidTable& table);
 
 }  // namespace hydrofacts::tables

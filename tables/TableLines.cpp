@@ -59,9 +59,9 @@ void TableLines::Remark(std::string_view text) {
     }
 }
 
-void TableLines::Record(std::initializer_list<std::string_view> fields) {
+void TableLines::Record(const std::vector<std::string>& fields) {
     std::string line;
-    for (const std::string_view field : fields) {
+    for (const std::string& field : fields) {
         if (field.empty()) {
             throw InputError(m_name + ": an empty field would shift those behind it: " + line);
         }

@@ -3,9 +3,9 @@
 
 #include <cstddef>
 #include <filesystem>
-#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace hydrofacts::tables {
 
@@ -30,7 +30,7 @@ class TableLines {
     /// A comment, cut at blanks into as many lines as it needs.
     void Remark(std::string_view text);
     /// A line of fields with one tab between them. No field may be empty.
-    void Record(std::initializer_list<std::string_view> fields);
+    void Record(const std::vector<std::string>& fields);
 
     const std::string& Text() const { return m_text; }
 

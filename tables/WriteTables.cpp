@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 
 #include "tables/CheckPoints.h"
@@ -12,20 +11,12 @@
 #include "tables/LeftOut.h"
 #include "tables/Report.h"
 #include "tables/TableFile.h"
+#include "tables/TableLines.h"
 
 namespace {
 
 using namespace hydrofacts::tables;
 namespace fs = std::filesystem;
-
-void WriteFile(const fs::path& file, const std::string& text) {
-    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-    stream << text;
-    stream.close();
-    if (!stream) {
-        throw InputError(file.generic_string() + ": cannot be written");
-    }
-}
 
 /// What comes out of the data.
 struct Library {
@@ -43,7 +34,7 @@ void AddFluid(Library& library, const FluidData& fluid, const fs::path& output) 
     };
     try {
         FluidTable table = DesignFluid(fluid);
-        WriteFile(file, TableText(table));
+        WriteWholeFile(file, TableText(table));
         CheckTable(output, table);
         if (!table.liquid) {
             leaveOut("liquid", table.noLiquid);
@@ -89,13 +80,13 @@ int Run(int argc, char** argv) {
     }
     const fs::path leftOut = fs::path(fluids) / "left_out.csv";
     if (renew) {
-        WriteFile(leftOut, LeftOutText(library.leftOut));
+        WriteWholeFile(leftOut, LeftOutText(library.leftOut));
     } else {
         CheckLeftOut(leftOut, library.leftOut);
     }
-    WriteFile(fs::path(output) / "check_points.csv", library.checkPoints);
+    WriteWholeFile(fs::path(output) / "check_points.csv", library.checkPoints);
     if (!report.empty()) {
-        WriteFile(report, ReportText(library.tables, library.leftOut));
+        WriteWholeFile(report, ReportText(library.tables, library.leftOut));
     }
     return 0;
 }
