@@ -4,6 +4,8 @@
 /// All public headers of Hydrofacts.
 
 #include "hydrofacts/dialogs/CFluidDlg.h"
+#include "hydrofacts/dialogs/CPipeTableDlg.h"
+#include "hydrofacts/dialogs/CValveTableDlg.h"
 #include "hydrofacts/dialogs/FluidTableCache.h"
 #include "hydrofacts/fluid/CFluid.h"
 #include "hydrofacts/formula/CFormula.h"

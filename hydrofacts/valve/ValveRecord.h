@@ -8,6 +8,8 @@
 
 namespace hydrofacts {
 
+inline constexpr const char* kValveExtension = ".VTBL";
+
 /// The device type "Other", which every loaded table has records of.
 inline constexpr std::int16_t kOtherDevices = 4;
 
