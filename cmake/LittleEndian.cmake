@@ -1,0 +1,12 @@
+# Appends a number to a variable of hexadecimal digits, as `count` bytes, the lowest first.
+function(append_little_endian variable number count)
+    set(digits "${${variable}}")
+    foreach(i RANGE 1 ${count})
+        math(EXPR byte "(${number}) & 0xff" OUTPUT_FORMAT HEXADECIMAL)
+        math(EXPR number "(${number}) >> 8")
+        string(REGEX REPLACE "^0x(.)$" "0x0\\1" byte ${byte})
+        string(REGEX REPLACE "^0x" "" byte ${byte})
+        string(APPEND digits ${byte})
+    endforeach()
+    set(${variable} ${digits} PARENT_SCOPE)
+endfunction()
