@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <initializer_list>
 #include <mutex>
 #include <string>
@@ -11,9 +12,57 @@
 #include "hydrofacts/dialogs/CFluidDlg.h"
 #include "hydrofacts/dialogs/FluidNames.h"
 #include "hydrofacts/frame/Module.h"
-#include "tests/dialogs/FluidFormTemplate.h"
 #include "tests/dialogs/TestDialog.h"
 #include "tests/fluid/TestFluid.h"
+
+/// Controls of a fluid dialog, as hosts number them.
+enum : int {
+    ID_LIST = 10001,
+    ID_TEMPERATURE = 10002,
+    ID_PRESSURE = 10004,
+    ID_VISCOSITY = 10006,
+    ID_DENSITY = 10008,
+    ID_LIQUID = 10010,
+    ID_VAPOR = 10011,
+    ID_SPHEAT = 10014,
+    ID_VAPOR_PRESSURE = 10017,
+    ID_NAME = 10024,
+    ID_NOTE = 10025,
+    ID_CRITICAL_PRESSURE = 10027,
+    ID_CRITICAL_TEMPERATURE = 10030,
+    ID_MOLECULAR_WEIGHT = 10032,
+    ID_FIXED_NAME = 10034,
+    ID_CAPTION = 10035,
+};
+
+using Ids = std::initializer_list<int>;
+using Texts = std::vector<std::string>;
+
+/// A host's fluid dialog with every control that a controller knows, except those of `without`.
+inline win32::DialogBuilder FluidForm(Ids without) {
+    win32::DialogBuilder form("Fluid", WS_POPUP | WS_CAPTION, {0, 0, 300, 300});
+    const win32::DialogPlace place{0, 0, 100, 12};
+    const auto add = [&](int id, bool edit) {
+        if (std::ranges::find(without, id) != without.end()) return;
+        edit ? form.Edit(id, place) : form.Static(id, "", place, WS_GROUP);
+    };
+    form.ListBox(ID_LIST, {0, 20, 100, 60}, LBS_SORT);
+    for (const int id :
+         {ID_NAME, ID_TEMPERATURE, ID_PRESSURE, ID_DENSITY, ID_VISCOSITY, ID_MOLECULAR_WEIGHT,
+          ID_CRITICAL_TEMPERATURE, ID_SPHEAT, ID_VAPOR_PRESSURE, ID_CRITICAL_PRESSURE}) {
+        add(id, true);
+    }
+    for (const int id :
+         Ids{ID_CAPTION, ID_NOTE, ID_FIXED_NAME, 10012, 10013, 10015, 10016, 10018, 10026, 10028}) {
+        add(id, false);
+    }
+    if (std::ranges::find(without, int{ID_VAPOR}) == without.end()) {
+        form.RadioButton(ID_LIQUID, "Liquid", place, WS_GROUP | WS_TABSTOP);
+        form.RadioButton(ID_VAPOR, "Vapor", place);
+    }
+    form.DefaultButton(IDOK, "OK", place).Button(IDCANCEL, "Cancel", place);
+    return form;
+}
 
 /// Takes back what the process has found out about fluid tables.
 inline void ForgetFluidTables() {
@@ -22,22 +71,19 @@ inline void ForgetFluidTables() {
     names->text.clear();
 }
 
-/// A host with one fluid dialog, in kelvin and absolute kPa, that forwards every notification. The
-/// dialog goes before the controller.
+/// A host with one fluid dialog, in kelvin and kPa, that forwards every notification. As it stands,
+/// it isn't the form for conditions only.
 class FluidHost {
   public:
-    explicit FluidHost(std::initializer_list<int> without = {ID_FIXED_NAME}, int useSG = 0,
+    explicit FluidHost(const std::string& tables, Ids without = {ID_FIXED_NAME}, int useSG = 0,
                        int absolute = 1)
         : fluid(HF_KELVIN, HF_KPA, absolute, 100.0, useSG), dialog(FluidForm(without)) {
         dialog.Forward([this](int id, int code) { fluid.DlgCommand(id, code); });
-    }
-    FluidHost(const std::string& tables, std::initializer_list<int> without = {ID_FIXED_NAME})
-        : FluidHost(without) {
         EXPECT_EQ(fluid.InitFluids(dialog.Handle(), tables.c_str()), 1);
     }
 
-    std::vector<std::string> Listed() const {
-        std::vector<std::string> rows;
+    Texts Listed() const {
+        Texts rows;
         for (int row = 0; row < dialog.Send(ID_LIST, LB_GETCOUNT); ++row) {
             char text[260];
             dialog.Send(ID_LIST, LB_GETTEXT, static_cast<WPARAM>(row),
@@ -47,20 +93,22 @@ class FluidHost {
         return rows;
     }
 
-    LRESULT Selected() const { return dialog.Send(ID_LIST, LB_GETCURSEL); }
+    std::string Selected() const {
+        const LRESULT row = dialog.Send(ID_LIST, LB_GETCURSEL);
+        return row == -1 ? "none" : Listed()[static_cast<std::size_t>(row)];
+    }
 
-    void Pick(const char* name) const {
-        const LRESULT row = dialog.Send(ID_LIST, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                        reinterpret_cast<LPARAM>(name));
-        ASSERT_NE(row, -1) << name;
-        ASSERT_TRUE(win32::user::PickRow(dialog.Item(ID_LIST), static_cast<int>(row)));
+    void Pick(const std::string& name) const {
+        const Texts rows = Listed();
+        const auto row = std::ranges::find(rows, name) - rows.begin();
+        ASSERT_TRUE(win32::user::PickRow(dialog.Item(ID_LIST), static_cast<int>(row))) << name;
     }
 
     void Type(int id, const char* text) const {
         ASSERT_TRUE(win32::user::TypeOver(dialog.Item(id), text)) << id;
     }
 
-    /// Goes to another control that nothing happens in.
+    /// Goes to another control, where nothing happens.
     void Leave() const { SetFocus(dialog.Item(IDCANCEL)); }
 
     void TypeConditions(const char* temperature, const char* pressure) const {
@@ -71,8 +119,8 @@ class FluidHost {
 
     /// Density, viscosity, molecular weight; ratio of specific heats; vapor pressure, critical
     /// temperature and pressure.
-    std::vector<std::string> Properties() const {
-        std::vector<std::string> texts;
+    Texts Properties() const {
+        Texts texts;
         for (const int id : {ID_DENSITY, ID_VISCOSITY, ID_MOLECULAR_WEIGHT, ID_SPHEAT,
                              ID_VAPOR_PRESSURE, ID_CRITICAL_TEMPERATURE, ID_CRITICAL_PRESSURE}) {
             texts.push_back(dialog.Text(id));
@@ -81,8 +129,7 @@ class FluidHost {
     }
 
     std::string Note() const { return dialog.Text(ID_NOTE); }
-    bool VaporChecked() const { return IsDlgButtonChecked(dialog.Handle(), ID_VAPOR) != 0; }
-    bool LiquidChecked() const { return IsDlgButtonChecked(dialog.Handle(), ID_LIQUID) != 0; }
+    bool Checked(int id) const { return IsDlgButtonChecked(dialog.Handle(), id) != 0; }
 
     CFluidDlg fluid;
     TestDialog dialog;
@@ -91,7 +138,6 @@ class FluidHost {
 /// What the table of FluidText gives at 300 K, worked out by hand: a liquid at 200 kPa (density
 /// 1200 - T, viscosity 2.123456 - T / 1000, saturation 10 T - 2900), a vapor at 50 kPa (density
 /// p M / (8.3144 T) with M = 28.9586, viscosity 0.01 + T / 100000, Cp 4 R).
-using Texts = std::vector<std::string>;
 inline const Texts kNothing(7);
 inline const Texts kLiquidAt200 = {"900", "1.823", "28.9586", "", "100", "400", "1100"};
 inline const Texts kVaporAt50 = {"0.5805", "0.013", "28.9586", "1.333", "", "", ""};
