@@ -96,15 +96,16 @@ void MakeKeyPressDelay(HWND dialog, unsigned control, long ms) {
     const HWND edit = GetDlgItem(dialog, static_cast<int>(control));
     if (edit == nullptr) return;
     const auto milliseconds = static_cast<UINT>(std::max(ms, 1L));
-    if (Delay* present = DelayOf(edit)) {
+    if (Delay* present = DelayOf(edit); present != nullptr) {
         present->dialog = dialog;
         present->milliseconds = milliseconds;
         return;
     }
     auto delay = std::make_unique<Delay>(Delay{nullptr, dialog, control, milliseconds, false});
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): a procedure comes as a number
     delay->former = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(edit, GWLP_WNDPROC));
     if (SetPropA(edit, kName, delay.get()) == FALSE) return;
-    delay.release();  // the edit's, which EndDelay gives back
+    static_cast<void>(delay.release());  // the edit's, which EndDelay gives back
     SetWindowLongPtrA(edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Watch));
 }
 

@@ -34,7 +34,7 @@ bool RunInBackground(LPTHREAD_START_ROUTINE procedure, void* parameter) {
         FreeLibrary(task->module);
         return false;
     }
-    task.release();  // the thread's
+    static_cast<void>(task.release());  // the thread's
     CloseHandle(thread);
     return true;
 }

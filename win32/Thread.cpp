@@ -2,7 +2,6 @@
 
 #include <pthread.h>
 
-#include <ctime>
 #include <memory>
 
 namespace {
@@ -35,28 +34,6 @@ void* Run(void* given) {
     return nullptr;
 }
 
-timespec Within(DWORD milliseconds) {
-    constexpr DWORD kPerSecond = 1000;
-    constexpr long kNanoseconds = 1000000;
-    constexpr long kNanosecondsPerSecond = 1000000000;
-    timespec time{};
-    ::clock_gettime(CLOCK_MONOTONIC, &time);
-    time.tv_sec += milliseconds / kPerSecond;
-    time.tv_nsec += static_cast<long>(milliseconds % kPerSecond) * kNanoseconds;
-    if (time.tv_nsec >= kNanosecondsPerSecond) {
-        ++time.tv_sec;
-        time.tv_nsec -= kNanosecondsPerSecond;
-    }
-    return time;
-}
-
-bool Join(pthread_t thread, DWORD milliseconds) {
-    if (milliseconds == 0) return ::pthread_tryjoin_np(thread, nullptr) == 0;
-    if (milliseconds == INFINITE) return ::pthread_join(thread, nullptr) == 0;
-    const timespec end = Within(milliseconds);
-    return ::pthread_clockjoin_np(thread, nullptr, CLOCK_MONOTONIC, &end) == 0;
-}
-
 }  // namespace
 
 HANDLE CreateThread(void*, std::size_t, LPTHREAD_START_ROUTINE procedure, void* parameter, DWORD,
@@ -64,14 +41,19 @@ HANDLE CreateThread(void*, std::size_t, LPTHREAD_START_ROUTINE procedure, void* 
     auto start = std::make_unique<Start>(Start{procedure, parameter});
     auto thread = std::make_unique<Thread>();
     if (::pthread_create(&thread->thread, nullptr, &Run, start.get()) != 0) return nullptr;
-    start.release();  // the thread's
+    static_cast<void>(start.release());  // the thread's
     return ToHandle(thread.release());
 }
 
 DWORD WaitForSingleObject(HANDLE handle, DWORD milliseconds) {
-    if (!win32::IsThread(handle)) return WAIT_FAILED;
+    const bool waits = milliseconds == INFINITE;
+    if (!win32::IsThread(handle) || (!waits && milliseconds != 0)) return WAIT_FAILED;
     Thread& thread = *ToThread(handle);
-    thread.joined = thread.joined || Join(thread.thread, milliseconds);
+    if (!thread.joined) {
+        const int failure = waits ? ::pthread_join(thread.thread, nullptr)
+                                  : ::pthread_tryjoin_np(thread.thread, nullptr);
+        thread.joined = failure == 0;
+    }
     return thread.joined ? WAIT_OBJECT_0 : WAIT_TIMEOUT;
 }
 

@@ -19,9 +19,9 @@ inline constexpr DWORD WAIT_FAILED = 0xFFFFFFFFU;
 HANDLE CreateThread(void* security, std::size_t stackSize, LPTHREAD_START_ROUTINE procedure,
                     void* parameter, DWORD flags, DWORD* id);
 
-/// Waits until a thread has ended, so that nothing of it runs any more: WAIT_OBJECT_0, or
-/// WAIT_TIMEOUT after `milliseconds`; WAIT_FAILED if the handle is none of a thread. From one
-/// thread at a time.
+/// Waits until a thread has ended (INFINITE), or asks whether it has (0): WAIT_OBJECT_0 if nothing
+/// of the thread runs any more, else WAIT_TIMEOUT. WAIT_FAILED for other times and for handles of
+/// anything else. From one thread at a time.
 DWORD WaitForSingleObject(HANDLE thread, DWORD milliseconds);
 
 namespace win32 {
