@@ -3,6 +3,7 @@
 
 /// All public headers of Hydrofacts.
 
+#include "hydrofacts/dialogs/Atmospheric_Pressure_From_Elevation_Dialog.h"
 #include "hydrofacts/dialogs/CFluidDlg.h"
 #include "hydrofacts/dialogs/CPipeTableDlg.h"
 #include "hydrofacts/dialogs/CValveTableDlg.h"
@@ -16,6 +17,8 @@
 #include "hydrofacts/units/UnitValue.h"
 #include "hydrofacts/units/Units.h"
 #include "hydrofacts/valve/CValveTable.h"
+#include "kvogui/EditControl.h"
+#include "kvogui/StaticControl.h"
 #include "quillbase/Directory.h"
 #include "win32/DialogBuilder.h"
 #include "win32/User.h"

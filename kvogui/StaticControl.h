@@ -1,0 +1,22 @@
+#ifndef KVOGUI_STATICCONTROL_H
+#define KVOGUI_STATICCONTROL_H
+
+#include <boost/shared_ptr.hpp>
+
+#include "kvogui/Win32Control.h"
+
+namespace kvo::gui {
+
+/// A text that a user reads.
+class HYDROFACTS_API StaticControl : public Win32Control {
+  public:
+    static boost::shared_ptr<StaticControl> new_control(int id);
+    ~StaticControl() override;
+
+  protected:
+    explicit StaticControl(int id);
+};
+
+}  // namespace kvo::gui
+
+#endif
