@@ -63,7 +63,7 @@ std::optional<Layout> LayOut(const Header& header, Bytes data) {
 
 unsigned Index(Bytes row, std::size_t x, unsigned bits) {
     const std::size_t bit = x * bits;
-    const unsigned shift = static_cast<unsigned>(8 - bits - bit % 8);
+    const auto shift = static_cast<unsigned>(8 - bits - bit % 8);
     return (static_cast<unsigned>(row[bit / 8]) >> shift) & ((1U << bits) - 1);
 }
 

@@ -29,9 +29,9 @@ namespace win32 {
 HWND MakeControl(std::string_view className, const Birth& birth) {
     for (const ControlClass& known : kClasses) {
         if (!EqualWithoutCase(known.name, className)) continue;
-        auto window = known.make(birth);
+        const auto window = known.make(birth);
         window->className = known.name;
-        return Register(std::move(window));
+        return Register(window);
     }
     return nullptr;
 }

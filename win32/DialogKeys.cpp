@@ -120,17 +120,16 @@ bool HandleMnemonic(HWND dialog, char letter) {
     const auto found = Find(dialog);
     if (!found) return false;
     const std::vector<HWND> controls = found->children;
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        const auto control = Find(controls[i]);
-        const LRESULT code = CodeOf(controls[i]);
+    for (const HWND handle : controls) {
+        const auto control = Find(handle);
+        const LRESULT code = CodeOf(handle);
         const bool labelled = (code & (DLGC_STATIC | DLGC_BUTTON)) != 0;
-        if (!control || !labelled || !CanGoTo(controls[i], 0) ||
-            Mnemonic(control->Text()) != letter) {
+        if (!control || !labelled || !CanGoTo(handle, 0) || Mnemonic(control->Text()) != letter) {
             continue;
         }
         if ((code & DLGC_BUTTON) != 0 && (code & DLGC_STATIC) == 0) {
-            SendMessageA(controls[i], BM_CLICK, 0, 0);
-        } else if (const HWND next = GetNextDlgTabItem(dialog, controls[i], FALSE)) {
+            SendMessageA(handle, BM_CLICK, 0, 0);
+        } else if (const HWND next = GetNextDlgTabItem(dialog, handle, FALSE)) {
             win32::FocusControl(next);
         }
         return true;

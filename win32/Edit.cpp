@@ -28,7 +28,7 @@ class Edit : public win32::Window {
     bool InComboBox() const;
 
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT DialogCode(WPARAM key, LPARAM message) const;
+    LRESULT DialogCode(WPARAM key, LPARAM asked) const;
     void SetText(std::string_view text);
     std::string InCase(std::string_view text) const;
     /// Replaces the selection; what doesn't fit is left out.
@@ -51,10 +51,10 @@ bool Edit::InComboBox() const {
     return holder && holder->className == "ComboBox";
 }
 
-LRESULT Edit::DialogCode(WPARAM key, LPARAM message) const {
+LRESULT Edit::DialogCode(WPARAM key, LPARAM asked) const {
     LRESULT code = DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS;
     if (Has(ES_MULTILINE) && (key != VK_TAB)) code |= DLGC_WANTALLKEYS;
-    if (InComboBox()) code |= SendMessageA(parent, WM_GETDLGCODE, key, message) & DLGC_WANTALLKEYS;
+    if (InComboBox()) code |= SendMessageA(parent, WM_GETDLGCODE, key, asked) & DLGC_WANTALLKEYS;
     return code;
 }
 

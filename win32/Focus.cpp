@@ -30,8 +30,8 @@ void MoveFocus(HWND window) {
     }
 }
 
-bool IsWithin(HWND window, HWND inside) {
-    return inside != nullptr && (inside == window || IsChild(window, inside) != FALSE);
+bool IsWithin(HWND outer, HWND inside) {
+    return inside != nullptr && (inside == outer || IsChild(outer, inside) != FALSE);
 }
 
 }  // namespace

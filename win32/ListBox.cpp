@@ -194,7 +194,7 @@ void ListBox::SelectByUser(int index) {
 
 void ListBox::PressKey(WPARAM key) {
     const int last = Count() - 1;
-    int to = selected_;
+    int to = 0;
     switch (key) {
         case VK_UP:
         case VK_LEFT:

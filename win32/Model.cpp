@@ -115,7 +115,7 @@ std::shared_ptr<Window> Find(HWND window) {
     return found;
 }
 
-HWND Register(std::shared_ptr<Window> window) {
+HWND Register(const std::shared_ptr<Window>& window) {
     const HWND self = Windows().Add(window);
     window->self_ = self;
     if (const auto parent = window->parent == nullptr ? nullptr : Find(window->parent)) {

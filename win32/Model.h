@@ -30,7 +30,7 @@ struct Birth {
 
 class Window {
   public:
-    Window(std::string_view className, const Birth& birth);
+    Window(std::string_view ofClass, const Birth& birth);
     virtual ~Window() = default;
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
@@ -79,7 +79,7 @@ class Window {
     std::string text_;
 
   private:
-    friend HWND Register(std::shared_ptr<Window> window);
+    friend HWND Register(const std::shared_ptr<Window>& window);
     HWND self_ = nullptr;
 };
 
@@ -96,7 +96,7 @@ std::shared_ptr<T> FindAs(HWND window) {
 }
 
 /// Gives the window a handle and its place in the family.
-HWND Register(std::shared_ptr<Window> window);
+HWND Register(const std::shared_ptr<Window>& window);
 
 /// Forgets a window; its handle is void afterwards.
 void Unregister(HWND window);

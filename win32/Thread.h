@@ -22,7 +22,7 @@ HANDLE CreateThread(void* security, std::size_t stackSize, LPTHREAD_START_ROUTIN
 /// Waits until a thread has ended (INFINITE), or asks whether it has (0): WAIT_OBJECT_0 if nothing
 /// of the thread runs any more, else WAIT_TIMEOUT. WAIT_FAILED for other times and for handles of
 /// anything else. From one thread at a time.
-DWORD WaitForSingleObject(HANDLE thread, DWORD milliseconds);
+DWORD WaitForSingleObject(HANDLE handle, DWORD milliseconds);
 
 namespace win32 {
 
@@ -30,7 +30,7 @@ namespace win32 {
 bool IsThread(HANDLE handle);
 
 /// What CloseHandle does with the handle of a thread.
-void CloseThread(HANDLE thread);
+void CloseThread(HANDLE handle);
 
 }  // namespace win32
 

@@ -34,7 +34,7 @@ class TreeView : public win32::Window {
     LRESULT Set(const TVITEMA& from);
     LRESULT Next(WPARAM relation, HTREEITEM handle);
     LRESULT SelectItem(WPARAM what, HTREEITEM handle);
-    LRESULT ItemRect(WPARAM textOnly, RECT& place);
+    LRESULT ItemRect(WPARAM textOnly, RECT& rect);
     LRESULT HitTest(TVHITTESTINFO& hit);
     LRESULT SetImages(WPARAM which, HIMAGELIST list);
 
@@ -154,8 +154,9 @@ void TreeView::Show(TreeItem& item) {
     for (TreeItem* up = item.parent; up != &items_.Root(); up = up->parent) {
         if (!up->Expanded()) closed.push_back(up->handle);
     }
-    for (auto above = closed.rbegin(); above != closed.rend(); ++above) {
-        TreeItem* found = Alive() ? items_.Find(*above) : nullptr;
+    std::ranges::reverse(closed);
+    for (const HTREEITEM above : closed) {
+        TreeItem* found = Alive() ? items_.Find(above) : nullptr;
         if (found == nullptr) return;
         Expand(*found, false);
     }
@@ -326,7 +327,7 @@ int TreeView::TextLeft(const TreeItem& item) const {
 LRESULT TreeView::ItemRect(WPARAM textOnly, RECT& rect) {
     // The item's handle comes in where the rectangle goes out.
     HTREEITEM handle = nullptr;
-    std::memcpy(&handle, &rect, sizeof handle);
+    std::memcpy(&handle, &rect, sizeof(UINT_PTR));
     const TreeItem* item = items_.Find(handle);
     const int row = item == nullptr ? -1 : RowOf(*item);
     if (row < 0) return FALSE;
@@ -487,7 +488,7 @@ LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 // NOLINTBEGIN(performance-no-int-to-ptr): the messages carry handles and addresses as numbers
 LRESULT TreeView::Items(UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto handle = reinterpret_cast<HTREEITEM>(lParam);
+    auto* const handle = reinterpret_cast<HTREEITEM>(lParam);
     switch (message) {
         case TVM_INSERTITEMA:
             return Insert(*reinterpret_cast<const TVINSERTSTRUCTA*>(lParam));

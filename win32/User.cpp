@@ -107,7 +107,7 @@ bool PickItem(HWND tree, HTREEITEM item) {
     SendMessageA(tree, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
     // The message takes the item's handle from where it puts the rectangle.
     RECT place{};
-    std::memcpy(&place, &item, sizeof item);
+    std::memcpy(&place, &item, sizeof(UINT_PTR));
     if (SendMessageA(tree, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place)) == 0) {
         return false;
     }

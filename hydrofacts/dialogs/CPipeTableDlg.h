@@ -36,7 +36,7 @@
 class HYDROFACTS_API CPipeTableDlg : public CPipeTable {
   public:
     /// An empty table in a unit system, attached to no dialog.
-    CPipeTableDlg(HF_UNITS units);
+    CPipeTableDlg(HF_UNITS system);
 
     CPipeTableDlg(const CPipeTableDlg& other);
     CPipeTableDlg& operator=(const CPipeTableDlg& other);
@@ -61,7 +61,7 @@ class HYDROFACTS_API CPipeTableDlg : public CPipeTable {
     void SetPipeMaterialSize(const char* material, const char* schedule, double size);
 
     /// Changes the unit system, and fills the combo box with the sizes of the new one.
-    void SetUnit(HF_UNITS units);
+    void SetUnit(HF_UNITS system);
 
   protected:
     HIMAGELIST m_imageList;  // of a tree that shows pipes; the host's to destroy

@@ -5,7 +5,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 class TableCommand : public SampleTables {
   protected:
