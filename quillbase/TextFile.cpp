@@ -32,12 +32,7 @@ TextFile::TextFile(const char* path) : text_(OpenAnyCaseOfExtension(path)) {}
 TextFile::~TextFile() = default;
 
 void TextFile::ReadLine(char* buffer, unsigned size) {
-    const std::string_view rest = text_.Text().substr(position_);
-    const std::size_t lineEnd = rest.find('\n');
-    eof_ = lineEnd == std::string_view::npos;
-    std::string_view line = rest.substr(0, lineEnd);
-    position_ += eof_ ? rest.size() : lineEnd + 1;
-    if (line.ends_with('\r')) line.remove_suffix(1);
+    const std::string_view line = TakeLine();
     if (size == 0) return;
 
     const std::size_t length = std::min<std::size_t>(line.size(), size - 1);

@@ -2,6 +2,7 @@
 #define QUILLBASE_TEXTFILE_H
 
 #include <cstddef>
+#include <string_view>
 
 #include "quillbase/FileText.h"
 
@@ -32,6 +33,11 @@ class TextFile {
     /// The same for a buffer of at least kPlainBuffer bytes.
     void ReadLine(char* buffer) { ReadLine(buffer, kPlainBuffer); }
 
+    /// The next line without copying it, of any length and with whatever bytes it has; it stays as
+    /// long as this object. Empty at the end of the file; what is said of a last line without a
+    /// line end holds here too.
+    std::string_view TakeLine();
+
     /// True once a read met the end of the file ahead of a line end. A line after whose reading
     /// this is true is to be dropped.
     bool eof() const { return eof_; }
@@ -41,5 +47,16 @@ class TextFile {
     std::size_t position_ = 0;
     bool eof_ = false;
 };
+
+// Tables are mostly passed over line by line: a call would cost as much as the line.
+inline std::string_view TextFile::TakeLine() {
+    const std::string_view rest = text_.Text().substr(position_);
+    const std::size_t lineEnd = rest.find('\n');
+    eof_ = lineEnd == std::string_view::npos;
+    std::string_view line = rest.substr(0, lineEnd);
+    position_ += eof_ ? rest.size() : lineEnd + 1;
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
+}
 
 #endif

@@ -16,26 +16,14 @@ namespace hydrofacts {
 
 namespace {
 
-constexpr bool IsDelimiter(char c) { return c == '\t' || c == '\r'; }
-
 thread_local char* restOfLine = nullptr;
 
 }  // namespace
 
-// Plain loops: fields are a few characters long, and the library functions for sets of characters
-// cost more to start than to run.
 char* NextField(char* line) {
-    char* field = line != nullptr ? line : restOfLine;
-    if (field == nullptr) return nullptr;
-    while (IsDelimiter(*field)) ++field;
-    if (*field == '\0') {
-        restOfLine = nullptr;
-        return nullptr;
-    }
-    char* end = field;
-    while (*end != '\0' && !IsDelimiter(*end)) ++end;
-    restOfLine = *end == '\0' ? nullptr : end + 1;
-    *end = '\0';
+    char* rest = line != nullptr ? line : restOfLine;
+    char* const field = TakeField(rest);
+    restOfLine = rest;
     return field;
 }
 

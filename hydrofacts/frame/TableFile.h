@@ -17,6 +17,26 @@ namespace hydrofacts {
 /// place and the position is kept per thread. `line` is null to go on in the line begun.
 char* NextField(char* line);
 
+/// The same with the position kept by the caller: `rest` is where to go on, null behind the last
+/// field.
+inline char* TakeField(char*& rest) {
+    // Plain loops: fields are a few characters long, and the library functions for sets of
+    // characters cost more to start than to run.
+    const auto isDelimiter = [](char c) { return c == '\t' || c == '\r'; };
+    if (rest == nullptr) return nullptr;
+    char* start = rest;
+    while (isDelimiter(*start)) ++start;
+    if (*start == '\0') {
+        rest = nullptr;
+        return nullptr;
+    }
+    char* end = start;
+    while (*end != '\0' && !isDelimiter(*end)) ++end;
+    rest = *end == '\0' ? nullptr : end + 1;
+    *end = '\0';
+    return start;
+}
+
 /// Tests the levels of a version line ("V"), which is cut: field 4, the low level, must not lie
 /// above `highLimit`, and field 5, the high level (field 4 again if it is missing), not below
 /// `lowLimit`. A limit of 0.0 tests nothing; a line without levels has level 0.0.

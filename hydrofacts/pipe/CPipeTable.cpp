@@ -32,39 +32,43 @@ hydrofacts::TablePath PathOf(const char* directory, const char* material) {
     return {directory, material, hydrofacts::kPipeExtension};
 }
 
-bool FindSchedule(TextFile& file, char* line, std::string_view schedule) {
+// Gives the first row of a schedule.
+bool FindSchedule(TextFile& file, std::string_view schedule, std::string_view& row) {
     do {
-        file.ReadLine(line, kPipeLineSize);
-    } while (!file.eof() && hydrofacts::ScheduleIn(line) != schedule);
+        row = file.TakeLine();
+    } while (!file.eof() && !hydrofacts::IsSizeRowOf(schedule, row));
     return !file.eof();
 }
 
-struct SizeRow {
+/// A size row: its text, cut into fields, and the figures of one unit system.
+class SizeRow {
+  public:
+    SizeRow(std::string_view row, HF_UNITS units) {
+        m_line[row.copy(m_line, sizeof m_line - 1)] = '\0';
+        // Key, schedule, nominal size US and metric, diameter and second dimension US, metric.
+        const bool metric = units == HF_METRIC;
+        char* fields[8] = {};
+        char* rest = m_line;
+        for (int i = 0; i < (metric ? 8 : 6); ++i) fields[i] = hydrofacts::TakeField(rest);
+        const auto read = [](const char* field, double& value) {
+            if (field != nullptr) quillbase::ScanReal(field, &value);
+        };
+        sizeText = fields[metric ? 3 : 2];
+        read(sizeText, nominal);
+        read(fields[metric ? 6 : 4], insideDia);
+        read(fields[metric ? 7 : 5], secondDim);
+    }
+
+    bool IsComplete() const { return nominal != 0.0 && insideDia != 0.0 && secondDim != 0.0; }
+
     char* sizeText;
     double nominal = 0.0;
     double insideDia = 0.0;
     double secondDim = 0.0;
 
-    bool IsComplete() const { return nominal != 0.0 && insideDia != 0.0 && secondDim != 0.0; }
+  private:
+    char m_line[kPipeLineSize];
 };
-
-// The fields behind key and schedule: nominal size US, metric; diameter and second dimension US;
-// the same metric.
-SizeRow ReadRow(char* line, HF_UNITS units) {
-    NextField(line);
-    NextField(nullptr);
-    char* fields[6];
-    for (char*& field : fields) field = NextField(nullptr);
-    const bool metric = units == HF_METRIC;
-    SizeRow row{.sizeText = fields[metric ? 1 : 0]};
-    const auto read = [](const char* field, double* value) {
-        if (field != nullptr) quillbase::ScanReal(field, value);
-    };
-    read(row.sizeText, &row.nominal);
-    read(fields[metric ? 4 : 2], &row.insideDia);
-    read(fields[metric ? 5 : 3], &row.secondDim);
-    return row;
-}
 
 }  // namespace
 
@@ -114,9 +118,9 @@ bool CPipeTable::LoadPipeList(const char* scheduleName, HWND combo) {
     sizes.Clear();
 
     TextFile file(path);
-    char line[kPipeLineSize];
-    return file.ValidFile() && nameFits && FindSchedule(file, line, schedule) &&
-           ReadSizes(file, line, sizes);
+    std::string_view row;
+    return file.ValidFile() && nameFits && FindSchedule(file, schedule, row) &&
+           ReadSizes(file, row, sizes);
 }
 
 void CPipeTable::SetPipeUnit(HF_UNITS system, HWND dialog) {
@@ -184,22 +188,24 @@ bool CPipeTable::ReadMaterialRecord() {
     return true;
 }
 
-// `line` is the schedule's first row.
-bool CPipeTable::ReadSizes(TextFile& file, char* line, const hydrofacts::SizeCombo& combo) {
+// `row` is the schedule's first one.
+bool CPipeTable::ReadSizes(TextFile& file, std::string_view row,
+                           const hydrofacts::SizeCombo& combo) {
     hydrofacts::ListEnd<t_pipe_size> end(pipe_list);
+    const std::string_view wanted = schedule;
     for (;;) {
-        const SizeRow row = ReadRow(line, units);
-        if (!row.IsComplete()) return false;
-        combo.Add(row.sizeText);
+        SizeRow read(row, units);
+        if (!read.IsComplete()) return false;
+        combo.Add(read.sizeText);
         t_pipe_size& size = end.Append(std::make_unique<t_pipe_size>());
-        size.nominal = row.nominal;
-        size.inside_dia = row.insideDia;
-        size.second_dim = row.secondDim;
+        size.nominal = read.nominal;
+        size.inside_dia = read.insideDia;
+        size.second_dim = read.secondDim;
 
-        file.ReadLine(line, kPipeLineSize);
-        if (file.eof() || *line != 'Z') return true;
-        const auto next = hydrofacts::ScheduleIn(line);
+        row = file.TakeLine();
+        if (file.eof() || !row.starts_with('Z')) return true;
+        const auto next = hydrofacts::ScheduleIn(row);
         if (!next) return false;
-        if (*next != schedule) return true;
+        if (*next != wanted) return true;
     }
 }

@@ -1,6 +1,8 @@
 #ifndef HYDROFACTS_PIPE_CPIPETABLE_H
 #define HYDROFACTS_PIPE_CPIPETABLE_H
 
+#include <string_view>
+
 #include "hydrofacts/units/UnitValue.h"
 #include "hydrofacts/units/Units.h"
 #include "win32/Win32.h"
@@ -133,7 +135,7 @@ class HYDROFACTS_API CPipeTable {
   private:
     HF_LENGTH_UNITS LengthUnit() const;
     bool ReadMaterialRecord();
-    bool ReadSizes(TextFile& file, char* line, const hydrofacts::SizeCombo& combo);
+    bool ReadSizes(TextFile& file, std::string_view row, const hydrofacts::SizeCombo& combo);
 };
 
 #endif
