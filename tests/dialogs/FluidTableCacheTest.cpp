@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <string>
 #include <thread>
-#include <vector>
 
 #include "hydrofacts/dialogs/FluidTableCache.h"
 
@@ -115,21 +114,6 @@ TEST_F(FluidTableCache, ThreadScansOnceAndDialogsWaitForItsEnd) {
     const std::string text = hydrofacts::FluidNamesFound();
     EXPECT_EQ(std::ranges::count(text, '\t'), kTables) << "one scan, whole names";
     EXPECT_EQ(text.back(), '\t');
-}
-
-TEST_F(FluidTableCache, ThreadsThatAskForTheListAllSeeAllOfIt) {
-    for (int i = 0; i < 50; ++i) folder_.Add("Fluid " + std::to_string(i), {});
-    std::vector<std::string> seen(4);
-    std::vector<std::thread> threads;
-    for (std::string& text : seen) {
-        threads.emplace_back([&] {
-            CFluidScan().LoadFluidNames(folder_.path.c_str(), FLUID_NONE, 0.0, 0.0);
-            text = hydrofacts::FluidNamesFound();
-        });
-    }
-    for (std::thread& thread : threads) thread.join();
-    EXPECT_EQ(std::ranges::count(seen[0], '\t'), 50);
-    for (const std::string& text : seen) EXPECT_EQ(text, seen[0]);
 }
 
 }  // namespace

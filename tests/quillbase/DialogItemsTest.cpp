@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "quillbase/CLanguage.h"
-#include "quillbase/CTableReader.h"
 #include "quillbase/DialogItems.h"
 #include "tests/dialogs/TestDialog.h"
 
@@ -15,12 +14,10 @@ namespace {
 
 constexpr int kEdit = 10;
 constexpr int kOther = 11;
-constexpr int kList = 12;
 
 win32::DialogBuilder Form() {
     win32::DialogBuilder form("Numbers", WS_POPUP, {0, 0, 100, 100});
     form.Edit(kEdit, {0, 0, 50, 12}).Edit(kOther, {0, 20, 50, 12});
-    form.ListBox(kList, {0, 40, 50, 50}, LBS_SORT);
     return form;
 }
 
@@ -87,16 +84,6 @@ TEST_F(DialogItems, NumbersAreShownInTheLanguagesForm) {
         quillbase::SetNumberLanguage(&german_);
         SetDlgItemDouble(Handle(), kEdit, c.number);
         EXPECT_EQ(dialog_.Text(kEdit), c.german);
-    }
-}
-
-TEST_F(DialogItems, ListIsFilledAnewWithTheItemsOfAText) {
-    for (const char* items : {"b\ta\tc\t", "b\t\ta\tc"}) {
-        CTableReader::Fill(false, dialog_.Item(kList), items, '\t', true);
-        ASSERT_EQ(dialog_.Send(kList, LB_GETCOUNT), 3) << items;
-        char text[10];
-        dialog_.Send(kList, LB_GETTEXT, 0, reinterpret_cast<LPARAM>(text));
-        EXPECT_STREQ(text, "a") << "the order is the list box's";
     }
 }
 
