@@ -72,6 +72,7 @@ void Dialog::close() {
     if (handle_ != nullptr) EndDialog(handle_, 0);
 }
 
+// NOLINTBEGIN(performance-no-int-to-ptr): a message carries an address as a number
 INT_PTR CALLBACK Dialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrA(window, DWLP_USER, lParam);
@@ -80,6 +81,7 @@ INT_PTR CALLBACK Dialog::procedure(HWND window, UINT message, WPARAM wParam, LPA
     auto* dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrA(window, DWLP_USER));
     return dialog == nullptr ? 0 : dialog->handleMessage(message, wParam, lParam);
 }
+// NOLINTEND(performance-no-int-to-ptr)
 
 // The caller is the window system, which no exception may pass through.
 int Dialog::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

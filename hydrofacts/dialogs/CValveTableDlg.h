@@ -13,10 +13,10 @@ class Symbols;
 /// A fitting or valve that a user chooses in a dialog of the host's: a device type by a button, a
 /// device from a tree with symbols. The host loads the table that the user picks in the combo box.
 ///
-///     CValveTableDlg valves(dialog);                                            // in
-///     WM_INITDIALOG valves.InitValveTables(dialog, tableDirectory, 9.0, 1.0);
-///     valves.LoadValveTable(tableDirectory, name, HF_METRIC, wanted);           // after a pick
-///     valves.DlgCommand(LOWORD(wParam), HIWORD(wParam), lParam);                // in WM_COMMAND
+///     CValveTableDlg valves(dialog);                                    // in WM_INITDIALOG
+///     valves.InitValveTables(dialog, tableDirectory, 9.0, 1.0);
+///     valves.LoadValveTable(tableDirectory, name, HF_METRIC, wanted);   // after a pick
+///     valves.DlgCommand(LOWORD(wParam), HIWORD(wParam), lParam);        // in WM_COMMAND
 ///     LONG_PTR picked = valves.DlgCommand(int(header->idFrom), int(header->code), lParam);
 ///     if (picked != 0) use(*reinterpret_cast<const CValveType*>(picked));       // in WM_NOTIFY
 ///
