@@ -92,14 +92,15 @@ class Desk {
     void Act() {
         TestDialog& dialog =
             *dice_.Any(std::array{fluidDialog_.get(), pipeDialog_.get(), valveDialog_.get()});
+        const HWND handle = dialog.Handle();
         if (dice_.OneIn(40)) {
-            HostActs();
+            HostActs();  // which may open the dialog anew
         } else if (dice_.OneIn(8)) {
             PressKey(dialog);
         } else {
             UseControl(dialog);
         }
-        if (dice_.OneIn(20)) win32::user::HandleMessages(dialog.Handle());
+        if (dice_.OneIn(20)) win32::user::HandleMessages(handle);
     }
 
     /// What the controllers claim fits what the dialogs show.
