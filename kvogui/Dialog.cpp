@@ -74,12 +74,15 @@ void Dialog::close() {
 
 // NOLINTBEGIN(performance-no-int-to-ptr): a message carries an address as a number
 INT_PTR CALLBACK Dialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG) {
-        SetWindowLongPtrA(window, DWLP_USER, lParam);
-        reinterpret_cast<Dialog*>(lParam)->handle_ = window;
-    }
     auto* dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrA(window, DWLP_USER));
-    return dialog == nullptr ? 0 : dialog->handleMessage(message, wParam, lParam);
+    if (dialog == nullptr) {
+        // Some messages come ahead of the one that tells whose window this is.
+        if (message != WM_INITDIALOG) return 0;
+        dialog = reinterpret_cast<Dialog*>(lParam);
+        SetWindowLongPtrA(window, DWLP_USER, lParam);
+        dialog->handle_ = window;
+    }
+    return dialog->handleMessage(message, wParam, lParam);
 }
 // NOLINTEND(performance-no-int-to-ptr)
 

@@ -3,13 +3,19 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <functional>
+#include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "hydrofacts/dialogs/Atmospheric_Pressure_From_Elevation_Dialog.h"
 #include "hydrofacts/frame/Language.h"
 #include "hydrofacts/frame/Module.h"
+#include "quillbase/DialogItems.h"
 #include "tests/dialogs/TestDialog.h"
 
 namespace {
@@ -151,6 +157,42 @@ TEST_F(ElevationDlg, ReadsAndWritesWithAPointInEveryLanguage) {
     });
     // 1000.9 ft, then 1000 and 1 ft: the number ends at the comma, and the point is no separator.
     EXPECT_THAT(results, ElementsAre("14.1731", "14.1735", "14.6965"));
+}
+
+// Whatever is typed, the result is that of the number at the head of the text, worked out here, or
+// stays as it was.
+TEST_F(ElevationDlg, FollowsAnyTyping) {
+    constexpr std::string_view kKeys = "0123456789.,-+e x\b\b";
+    constexpr unsigned kSeed = 109;
+    constexpr int kTexts = 20000;
+    std::mt19937 random(kSeed);
+    int numbers = 0;
+    Show(HF_PSI, HF_LEN_FT, [&](HWND dialog) {
+        const HWND edit = GetDlgItem(dialog, ID_ELEVATION);
+        std::string expected = Result();
+        for (int i = 0; i < kTexts && !HasFailure(); ++i) {
+            const char key[] = {kKeys[random() % kKeys.size()], '\0'};
+            const std::string before = TextOf(dialog, ID_ELEVATION);
+            if (random() % 10 == 0) {
+                SetDlgItemTextA(dialog, ID_ELEVATION, "");
+            } else {
+                win32::user::Type(edit, key);
+            }
+            const std::string text = TextOf(dialog, ID_ELEVATION);
+            if (text != before && GoodNumber(dialog, ID_ELEVATION, true, true, true)) {
+                const double feet = std::strtod(text.c_str(), nullptr);
+                char psi[32] = "";
+                if (feet >= -10000.0 && feet <= 15000.0) {
+                    std::snprintf(psi, sizeof psi, "%.6g",
+                                  14.697 * std::pow(1.0 - feet / 145422.156, 5.255879746));
+                }
+                expected = psi;
+                ++numbers;
+            }
+            EXPECT_EQ(Result(), expected) << text;
+        }
+    });
+    EXPECT_GT(numbers, kTexts / 4);
 }
 
 TEST_F(ElevationDlg, OpensAtItsPlaceInTheSizeOfTheTemplate) {
