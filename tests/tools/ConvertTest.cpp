@@ -62,14 +62,6 @@ TEST_F(ConvertCommand, ConvertsByTheDensityOfAFluid) {
                 HasSubstr("Sample, a liquid at 300 K and 150 kPa absolute: 950.0 kg/m\u00B3"));
 }
 
-TEST_F(ConvertCommand, PrintsBothUnits) {
-    EXPECT_EQ(Run("convert -40 f c").out,
-              "-40 \u00B0"
-              "F = -40 \u00B0"
-              "C\n");
-    EXPECT_EQ(Run("convert 1 M3/H \"us GPM\"").out, "1 m\u00B3/hr = 4.4028675 US gpm\n");
-}
-
 TEST_F(ConvertCommand, RefusesWhatHasNoAnswer) {
     const struct {
         const char* arguments;

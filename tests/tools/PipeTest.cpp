@@ -73,14 +73,6 @@ TEST_F(PipeCommand, ShowsTheSchedulesOfAMaterial) {
     EXPECT_EQ(json["roughness"], 0.05);
 }
 
-TEST_F(PipeCommand, ShowsTheSizesOfASchedule) {
-    const Outcome outcome = Run(Line("pipe \"sample pipe\" 40 --units metric"));
-    EXPECT_THAT(outcome.out, HasSubstr("Sample Pipe, schedule 40: roughness 0.05 mm"));
-    EXPECT_THAT(outcome.out, HasSubstr("SIZE (mm)  INSIDE (mm)  OUTSIDE (mm)  WALL (mm)\n"
-                                       "15         16           20            2\n"));
-    EXPECT_EQ(Pipe("\"type k\"")["sizes"].size(), 1U);
-}
-
 // Flow area pi / 4 x 2² = 3.14159 in², relative roughness 0.002 / 2.
 TEST_F(PipeCommand, ShowsASize) {
     const auto us = Pipe("40 2");
