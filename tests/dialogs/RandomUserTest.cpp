@@ -264,9 +264,9 @@ TEST_P(RandomUser, FindsNothingThatBreaks) {
         if (HasFatalFailure() || HasNonfatalFailure()) FAIL() << "after action " << i;
     }
     // The user has got somewhere.
-    EXPECT_GT(desk.fluidsSeen, 1000U);
-    EXPECT_GT(desk.pipesSeen, 1000U);
-    EXPECT_GT(desk.devicesSeen, 100U);
+    EXPECT_GT(desk.fluidsSeen, kActions / 60U);
+    EXPECT_GT(desk.pipesSeen, kActions / 60U);
+    EXPECT_GT(desk.devicesSeen, kActions / 600U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomUser, ::testing::Values(1U, 2U, 3U, 4U, 5U));
