@@ -6,7 +6,6 @@
 namespace {
 
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 const std::string kBaseUnits = " --temperature-unit K --pressure-unit kPa --absolute";
 
@@ -120,15 +119,14 @@ TEST_F(PlotCommand, RefusesWhatCannotBeDrawn) {
                   "can't be written");
 }
 
-// In single quotes gnuplot carries out nothing.
 TEST_F(PlotCommand, WritesAScriptThatHoldsItsData) {
-    Write("It's `odd`.FTBL", SampleTable());
+    Write("It's odd.FTBL", SampleTable());
     const Outcome outcome =
-        Run(WithTables("plot \"It's \\`odd\\`\" viscosity -o \"" + Output("a.GP") + "\""));
+        Run(WithTables("plot \"It's odd\" viscosity -o \"" + Output("a.GP") + "\""));
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_THAT(outcome.out, HasSubstr("a.GP: 2 curves, 0 check points\n"));
     const std::string script = m_folder.Read("a.GP");
-    EXPECT_THAT(script, HasSubstr("set title 'It''s `odd`: viscosity of the liquid'"));
+    EXPECT_THAT(script, HasSubstr("set title 'It''s odd: viscosity of the liquid'"));
     EXPECT_THAT(script, HasSubstr("set ylabel 'viscosity, cP'"));
     EXPECT_THAT(script, HasSubstr("\n260.33 0\nEND\n"));
 }
@@ -168,6 +166,20 @@ TEST_F(PlotCommand, GnuplotDrawsIt) {
     EXPECT_EQ(Count(svg, "<use xlink:href='#gpPt5' transform"), 1U + 1U);
     EXPECT_TRUE(svg.ends_with("</svg>\n\n") || svg.ends_with("</svg>\n"))
         << svg.substr(svg.size() - 9);
+}
+
+// Nothing in a name is carried out or taken for a mark.
+TEST_F(PlotCommand, TextsAreDrawnAsTheyAre) {
+    const std::string name = "It's `touch x` $(touch y) {a}_b^2 @c";
+    Write(name + ".FTBL", SampleTable());
+    std::string quoted = name;
+    quoted.replace(quoted.find('\''), 1, "'\\''");
+    const Outcome outcome =
+        Run(WithTables("plot '" + quoted + "' k -o \"" + Output("a.svg") + "\""));
+    ASSERT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_THAT(m_folder.Read("a.svg"),
+                HasSubstr("`touch x` $(touch y) {a}_b^2 @c: ratio of specific heats"));
+    EXPECT_FALSE(std::filesystem::exists("x"));
 }
 
 TEST_F(PlotCommand, SaysThatGnuplotIsMissingOrFails) {
