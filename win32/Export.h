@@ -23,4 +23,12 @@
 #define HYDROFACTS_HIDDEN __attribute__((visibility("hidden")))
 #endif
 
+// Marks a small variable of a thread that is used all the time: it lies where the thread finds it
+// without asking the loader, also if the library was loaded after the thread began.
+#ifdef _WIN32
+#define HYDROFACTS_STATIC_TLS
+#else
+#define HYDROFACTS_STATIC_TLS __attribute__((tls_model("initial-exec")))
+#endif
+
 #endif

@@ -16,7 +16,7 @@ namespace hydrofacts {
 
 namespace {
 
-thread_local char* restOfLine = nullptr;
+HYDROFACTS_STATIC_TLS thread_local char* restOfLine = nullptr;
 
 }  // namespace
 
