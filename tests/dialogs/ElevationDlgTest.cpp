@@ -3,10 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <functional>
+#include <iterator>
 #include <random>
 #include <string>
 #include <string_view>
@@ -161,6 +162,15 @@ TEST_F(ElevationDlg, ReadsAndWritesWithAPointInEveryLanguage) {
 
 // Whatever is typed, the result is that of the number at the head of the text, worked out here, or
 // stays as it was.
+// With a point, whatever the locale; 0.0 if there is none.
+double NumberAtTheHeadOf(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    if (text.starts_with('+')) text.remove_prefix(1);
+    double number = 0.0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
 TEST_F(ElevationDlg, FollowsAnyTyping) {
     constexpr std::string_view kKeys = "0123456789.,-+e x\b\b";
     constexpr unsigned kSeed = 109;
@@ -180,11 +190,12 @@ TEST_F(ElevationDlg, FollowsAnyTyping) {
             }
             const std::string text = TextOf(dialog, ID_ELEVATION);
             if (text != before && GoodNumber(dialog, ID_ELEVATION, true, true, true)) {
-                const double feet = std::strtod(text.c_str(), nullptr);
+                const double feet = NumberAtTheHeadOf(text);
                 char psi[32] = "";
                 if (feet >= -10000.0 && feet <= 15000.0) {
-                    std::snprintf(psi, sizeof psi, "%.6g",
-                                  14.697 * std::pow(1.0 - feet / 145422.156, 5.255879746));
+                    std::to_chars(psi, std::end(psi) - 1,
+                                  14.697 * std::pow(1.0 - feet / 145422.156, 5.255879746),
+                                  std::chars_format::general, 6);
                 }
                 expected = psi;
                 ++numbers;
