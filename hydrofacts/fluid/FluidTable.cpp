@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <iterator>
+#include <string_view>
 
 #include "hydrofacts/fluid/CFluid.h"
 #include "hydrofacts/frame/TableFile.h"
@@ -13,7 +14,9 @@ namespace {
 constexpr int kLineSize = 260;
 
 // Capitals alone make a record; anything else is a remark.
-bool IsRecord(const char* line) { return *line == 'D' || *line == 'P' || *line == 'V'; }
+bool IsRecord(std::string_view line) {
+    return line.starts_with('D') || line.starts_with('P') || line.starts_with('V');
+}
 
 }  // namespace
 
@@ -40,9 +43,12 @@ int CFluid::SetFluid(char* directory, const char* name, double temperature) {
 }
 
 void CFluid::ReadFluidRecords(TextFile* file, char* line, int) {
+    // Most lines are remarks, which need not be copied.
+    std::string_view read;
     do {
-        file->ReadLine(line, kLineSize);
-    } while (!file->eof() && !IsRecord(line));
+        read = file->TakeLine();
+    } while (!file->eof() && !IsRecord(read));
+    line[read.copy(line, kLineSize - 1)] = '\0';
 }
 
 int CFluid::LoadFluidTable(const char* directory, const char* name) {
@@ -84,12 +90,13 @@ bool CFluid::ReadTable(TextFile& file, double highLimit, double lowLimit) {
 bool CFluid::ReadConstants(TextFile& file, char* line) {
     ReadFluidRecords(&file, line, kLineSize);
     if (!file.eof() && *line == 'D') {
-        hydrofacts::NextField(line);
+        char* rest = line;
+        hydrofacts::TakeField(rest);
         double* const constants[] = {&m_molecularWt,   &m_criticalTemp,  &m_criticalPres,
                                      &m_liquidMinTemp, &m_liquidMaxTemp, &m_vaporMinTemp,
                                      &m_vaporMaxTemp,  &m_vaporMaxPres};
         for (double* constant : constants) {
-            if (ReadDoubleField(nullptr, constant) == 0) break;
+            if (hydrofacts::TakeReal(rest, constant) == 0) break;
         }
     }
     return m_vaporMaxPres != 0.0;

@@ -175,16 +175,17 @@ void CFormula::ClearFormula() {
 int CFormula::LoadFormula(short slot, char* line, double tc, double pc) {
     ClearFormula();
     m_slot = slot;
-    if (!HasNumber(hydrofacts::NextField(line), slot + 1)) return 1;
+    char* rest = line;
+    if (!HasNumber(hydrofacts::TakeField(rest), slot + 1)) return 1;
 
-    const char* typeField = hydrofacts::NextField(nullptr);
+    const char* typeField = hydrofacts::TakeField(rest);
     std::int32_t type = 0;
     if (typeField != nullptr && quillbase::ScanInteger(typeField, &type) == 1) {
         m_type = static_cast<std::int16_t>(type);
     }
     if (m_type != 0) {
         for (double& coefficient : m_coefficients) {
-            if (ReadDoubleField(nullptr, &coefficient) == 0) break;
+            if (hydrofacts::TakeReal(rest, &coefficient) == 0) break;
         }
     }
     if (slot == SLOT_VAPOR_DENSITY) {

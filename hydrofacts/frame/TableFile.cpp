@@ -6,25 +6,28 @@
 #include "quillbase/Numbers.h"
 #include "win32/Win32.h"
 
-int ReadDoubleField(char* line, double* value) {
-    const char* field = hydrofacts::NextField(line);
-    if (field == nullptr) return 0;
-    return quillbase::ScanReal(field, value) != quillbase::kNoNumber ? 1 : 0;
-}
-
-namespace hydrofacts {
-
 namespace {
 
 HYDROFACTS_STATIC_TLS thread_local char* restOfLine = nullptr;
 
 }  // namespace
 
+int ReadDoubleField(char* line, double* value) {
+    if (line != nullptr) restOfLine = line;
+    return hydrofacts::TakeReal(restOfLine, value);
+}
+
+namespace hydrofacts {
+
 char* NextField(char* line) {
-    char* rest = line != nullptr ? line : restOfLine;
-    char* const field = TakeField(rest);
-    restOfLine = rest;
-    return field;
+    if (line != nullptr) restOfLine = line;
+    return TakeField(restOfLine);
+}
+
+int TakeReal(char*& rest, double* value) {
+    const char* field = TakeField(rest);
+    if (field == nullptr) return 0;
+    return quillbase::ScanReal(field, value) != quillbase::kNoNumber ? 1 : 0;
 }
 
 bool LevelsAreWithin(char* line, double highLimit, double lowLimit) {

@@ -37,6 +37,9 @@ inline char* TakeField(char*& rest) {
     return start;
 }
 
+/// What ReadDoubleField does, with the position kept by the caller.
+int TakeReal(char*& rest, double* value);
+
 /// Tests the levels of a version line ("V"), which is cut: field 4, the low level, must not lie
 /// above `highLimit`, and field 5, the high level (field 4 again if it is missing), not below
 /// `lowLimit`. A limit of 0.0 tests nothing; a line without levels has level 0.0.
