@@ -151,7 +151,8 @@ struct CValveTable::Reading {
 int CValveTable::LoadValveTable(const char* directory, const char* table, HF_UNITS units,
                                 const int* wanted) {
     ClearValveList();
-    rstrncpy(path, hydrofacts::TablePath(directory, table, hydrofacts::kValveExtension).c_str(), sizeof path);
+    rstrncpy(path, hydrofacts::TablePath(directory, table, hydrofacts::kValveExtension).c_str(),
+             sizeof path);
     Reading reading{TextFile(path), units, wanted};
     if (!reading.file.ValidFile()) return 0;
     reading.NextLine();
