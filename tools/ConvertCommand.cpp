@@ -49,6 +49,7 @@ std::vector<HF_UNIT_TYPES> MeasuresWith(const std::string& unit) {
 
 std::string NamesOf(const std::vector<HF_UNIT_TYPES>& types, const char* lastWord) {
     std::vector<std::string> names;
+    names.reserve(types.size());
     for (const HF_UNIT_TYPES type : types) names.emplace_back(MeasureName(type));
     return JoinNames(names, lastWord);
 }

@@ -35,18 +35,19 @@ class Picture {
         for (std::size_t i = 0; i < size; ++i) value |= std::uint32_t{bytes_.at(at + i)} << (8 * i);
         return value;
     }
-    std::size_t RowSize() const { return (Number(4, 4) + 7) / 8 * 4; }
+    std::size_t RowSize() const { return (std::size_t{Number(4, 4)} + 7) / 8 * 4; }
 
     /// The colour as 0xRRGGBB of a pixel, counted from the top left.
     std::uint32_t At(int cell, int x, int y) const {
-        const auto column = static_cast<std::size_t>(cell * kCell + x);
-        const std::size_t row = static_cast<std::size_t>(kCell - 1 - y) * RowSize();
+        const auto column = static_cast<std::size_t>(cell) * kCell + static_cast<std::size_t>(x);
+        const std::size_t row = (kCell - 1 - static_cast<std::size_t>(y)) * RowSize();
         const unsigned pair = bytes_.at(kHead + kPalette + row + column / 2);
         const std::size_t index = column % 2 == 0 ? pair >> 4U : pair & 0xFU;
         return Number(kHead + 4 * index, 4);
     }
     std::vector<std::uint32_t> Cell(int cell) const {
         std::vector<std::uint32_t> pixels;
+        pixels.reserve(std::size_t{kCell} * kCell);
         for (int i = 0; i < kCell * kCell; ++i) pixels.push_back(At(cell, i % kCell, i / kCell));
         return pixels;
     }

@@ -109,7 +109,7 @@ class KeyPressDelay : public DialogItems {
         return left;
     }
 
-    const Log kNever;
+    const Log kNever{};
     const Log kOnce{{kEdit, EN_KILLFOCUS}};
 };
 
