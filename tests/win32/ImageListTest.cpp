@@ -23,8 +23,6 @@ Bytes Dib(LONG width, LONG height, WORD bits, const std::vector<DWORD>& palette,
     Put(dib, static_cast<DWORD>(height), 4);
     Put(dib, 1, 2);
     Put(dib, bits, 2);
-    Put(dib, 0, 20);
-    for (int i = 0; i < 16; ++i) dib.push_back(0);
     dib.resize(40);
     dib[32] = static_cast<unsigned char>(palette.size());
     for (const DWORD color : palette) Put(dib, color, 4);

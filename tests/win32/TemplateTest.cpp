@@ -11,7 +11,7 @@ namespace {
 
 std::vector<unsigned char> Bytes(const win32::DialogBuilder& form, std::size_t size) {
     std::vector<unsigned char> bytes(size);
-    std::memcpy(bytes.data(), form.Template(), size);
+    if (size > 0) std::memcpy(bytes.data(), form.Template(), size);
     return bytes;
 }
 
