@@ -9,6 +9,7 @@
 #include "win32/Error.h"
 #include "win32/Module.h"
 #include "win32/Queue.h"
+#include "win32/View.h"
 
 namespace {
 
@@ -17,23 +18,20 @@ using win32::Dialog;
 using win32::TemplateItem;
 using win32::ThisThread;
 
-// The font of dialogs, 8 point "MS Shell Dlg" at 96 dots an inch: mean width and height in pixels.
-constexpr LONG kBaseWidth = 6;
-constexpr LONG kBaseHeight = 13;
-
-RECT ToPixels(const RECT& units) {
-    const auto x = [](LONG value) { return value * kBaseWidth / 4; };
-    const auto y = [](LONG value) { return value * kBaseHeight / 8; };
+RECT ToPixels(const RECT& units, SIZE base) {
+    const auto x = [base](LONG value) { return value * base.cx / 4; };
+    const auto y = [base](LONG value) { return value * base.cy / 8; };
     return {x(units.left), y(units.top), x(units.right), y(units.bottom)};
 }
 
-Birth BirthOf(const TemplateItem& item, HWND parent, HINSTANCE module) {
-    return {parent, item.style, item.exStyle, item.text, ToPixels(item.place), item.id, module};
+Birth BirthOf(const TemplateItem& item, SIZE base, HWND parent, HINSTANCE module) {
+    const RECT place = ToPixels(item.place, base);
+    return {parent, item.style, item.exStyle, item.text, place, item.id, module};
 }
 
 bool MakeControls(Dialog& dialog, const std::vector<TemplateItem>& controls) {
     for (const TemplateItem& item : controls) {
-        Birth birth = BirthOf(item, dialog.Self(), dialog.module);
+        Birth birth = BirthOf(item, dialog.baseUnits, dialog.Self(), dialog.module);
         birth.style |= WS_CHILD;
         const HWND control = win32::MakeControl(item.className, birth);
         if (control == nullptr) {
@@ -48,6 +46,12 @@ bool MakeControls(Dialog& dialog, const std::vector<TemplateItem>& controls) {
     return true;
 }
 
+// The pixels that dialog units are counted in, as the view's font has them.
+SIZE BaseUnits() {
+    const win32::View* view = ThisThread().view;
+    return view == nullptr ? win32::kBaseUnits : view->BaseUnits();
+}
+
 /// Makes a dialog up to its WM_INITDIALOG, hidden; null if that fails or the dialog ends itself.
 std::shared_ptr<Dialog> Make(const void* data, std::size_t size, HINSTANCE module, HWND parent,
                              DLGPROC procedure, LPARAM parameter) {
@@ -56,9 +60,11 @@ std::shared_ptr<Dialog> Make(const void* data, std::size_t size, HINSTANCE modul
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
-    Birth birth = BirthOf(description->dialog, parent, module);
+    const SIZE base = BaseUnits();
+    Birth birth = BirthOf(description->dialog, base, parent, module);
     birth.style &= ~WS_VISIBLE;
     const auto dialog = std::make_shared<Dialog>(birth, procedure);
+    dialog->baseUnits = base;
     const HWND self = win32::Register(dialog);
     if (!MakeControls(*dialog, description->controls)) {
         DestroyWindow(self);
@@ -68,13 +74,15 @@ std::shared_ptr<Dialog> Make(const void* data, std::size_t size, HINSTANCE modul
     const LRESULT focus =
         SendMessageA(self, WM_INITDIALOG, reinterpret_cast<WPARAM>(first), parameter);
     if (!dialog->Alive()) return nullptr;
-    if (focus != FALSE && !dialog->ended) {
+    const bool visible = (description->dialog.style & WS_VISIBLE) != 0;
+    // A page that comes up hidden leaves the focus where it is.
+    const bool takesFocus = visible || !dialog->Has(DS_CONTROL);
+    if (focus != FALSE && takesFocus && !dialog->ended) {
         // The procedure may have changed which control comes first.
         if (const HWND control = GetNextDlgTabItem(self, nullptr, FALSE)) {
             win32::FocusControl(control);
         }
     }
-    const bool visible = (description->dialog.style & WS_VISIBLE) != 0;
     if (visible && !dialog->ended && dialog->Alive()) ShowWindow(self, SW_SHOWNORMAL);
     return dialog->Alive() ? dialog : nullptr;
 }
@@ -175,7 +183,8 @@ BOOL EndDialog(HWND dialog, INT_PTR result) {
 }
 
 BOOL MapDialogRect(HWND dialog, LPRECT place) {
-    if (!win32::FindAs<Dialog>(dialog)) return FALSE;
-    *place = ToPixels(*place);
+    const auto found = win32::FindAs<Dialog>(dialog);
+    if (!found) return FALSE;
+    *place = ToPixels(*place, found->baseUnits);
     return TRUE;
 }

@@ -19,6 +19,37 @@ bool CanGoTo(HWND control, DWORD style) {
     return found && found->Has(WS_VISIBLE | style) && !found->Has(WS_DISABLED);
 }
 
+// The controls that keys lead to, in their order: those of pages (WS_EX_CONTROLPARENT) in the place
+// of the page, unless it is hidden or disabled.
+void Gather(HWND dialog, std::vector<HWND>& controls) {
+    const auto found = Find(dialog);
+    if (!found) return;
+    for (const HWND child : found->children) {
+        const auto control = Find(child);
+        if (!control || (control->exStyle & WS_EX_CONTROLPARENT) == 0) {
+            controls.push_back(child);
+        } else if (CanGoTo(child, 0)) {
+            Gather(child, controls);
+        }
+    }
+}
+
+std::vector<HWND> ControlsOf(HWND dialog) {
+    std::vector<HWND> controls;
+    Gather(dialog, controls);
+    return controls;
+}
+
+// The dialog, or its page, that a control stands on.
+HWND PageOf(HWND dialog, HWND control) {
+    for (HWND page = GetAncestor(control, GA_PARENT); page != nullptr && page != dialog;
+         page = GetAncestor(page, GA_PARENT)) {
+        const auto found = Find(page);
+        if (found && (found->exStyle & WS_EX_CONTROLPARENT) != 0) return page;
+    }
+    return dialog;
+}
+
 // The control of the dialog that holds a window: the focus may lie deeper, in a combo box.
 std::size_t IndexOf(const std::vector<HWND>& controls, HWND window) {
     const auto found = std::find_if(controls.begin(), controls.end(), [&](HWND control) {
@@ -65,7 +96,7 @@ void Command(HWND dialog, WORD id, HWND control) {
 void PressEnter(HWND dialog, HWND focus) {
     constexpr LRESULT kPush = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
     if (IsChild(dialog, focus) != FALSE && (CodeOf(focus) & kPush) != 0) {
-        Command(dialog, static_cast<WORD>(GetDlgCtrlID(focus)), focus);
+        Command(PageOf(dialog, focus), static_cast<WORD>(GetDlgCtrlID(focus)), focus);
         return;
     }
     const LRESULT id = SendMessageA(dialog, DM_GETDEFID, 0, 0);
@@ -117,10 +148,7 @@ char Mnemonic(std::string_view text) {
 
 // An underlined letter presses its button, or leads from its label to the control behind.
 bool HandleMnemonic(HWND dialog, char letter) {
-    const auto found = Find(dialog);
-    if (!found) return false;
-    const std::vector<HWND> controls = found->children;
-    for (const HWND handle : controls) {
+    for (const HWND handle : ControlsOf(dialog)) {
         const auto control = Find(handle);
         const LRESULT code = CodeOf(handle);
         const bool labelled = (code & (DLGC_STATIC | DLGC_BUTTON)) != 0;
@@ -148,9 +176,8 @@ bool HandleCharacter(HWND dialog, const MSG& message) {
 }  // namespace
 
 HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
-    const auto found = Find(dialog);
-    if (!found || found->children.empty()) return nullptr;
-    const auto& all = found->children;
+    const std::vector<HWND> all = ControlsOf(dialog);
+    if (all.empty()) return nullptr;
     const bool back = previous != FALSE;
     const std::size_t start = control == nullptr ? all.size() : IndexOf(all, control);
     std::size_t at = start == all.size() ? (back ? 0 : all.size() - 1) : start;
@@ -162,7 +189,7 @@ HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
 }
 
 HWND GetNextDlgGroupItem(HWND dialog, HWND control, BOOL previous) {
-    const auto found = Find(dialog);
+    const auto found = Find(PageOf(dialog, control));
     if (!found || found->children.empty()) return nullptr;
     const auto& all = found->children;
     std::size_t first = control == nullptr ? 0 : IndexOf(all, control);

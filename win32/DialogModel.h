@@ -25,6 +25,7 @@ class Dialog : public Window {
     WORD defaultId = 0;
     bool ended = false;
     INT_PTR result = 0;
+    SIZE baseUnits{};              ///< what its dialog units were counted in
     HWND disabledOwner = nullptr;  ///< of a modal dialog: the window to enable again
 
   private:

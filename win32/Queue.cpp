@@ -178,6 +178,8 @@ ThreadState& ThisThread() {
 
 View::~View() = default;
 
+SIZE View::BaseUnits() const { return kBaseUnits; }
+
 View* SetView(View* view) { return std::exchange(ThisThread().view, view); }
 
 }  // namespace win32

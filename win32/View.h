@@ -8,6 +8,10 @@
 
 namespace win32 {
 
+/// Mean width and height of the characters in the font of dialogs, in pixels: 8 point "MS Shell
+/// Dlg" at 96 dots an inch. Four dialog units across are one width, eight down one height.
+inline constexpr SIZE kBaseUnits{6, 13};
+
 /// Watches the windows of the thread that has set it. It must not destroy windows from within these
 /// calls.
 class HYDROFACTS_API View {
@@ -23,6 +27,9 @@ class HYDROFACTS_API View {
     /// Lets the toolkit work, for `milliseconds` at most, until it has put a message into the
     /// queue. False if no user can bring one any more: message loops end then.
     virtual bool Wait(DWORD milliseconds) = 0;
+
+    /// What the dialog units of the next dialog are counted in, if the view has a font of its own.
+    virtual SIZE BaseUnits() const;
 };
 
 /// Sets the view of this thread, null for none; gives the former one. The view has to outlive its

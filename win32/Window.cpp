@@ -1,6 +1,7 @@
 #include "win32/Window.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "win32/Error.h"
 #include "win32/Focus.h"
@@ -57,6 +58,19 @@ POINT Origin(const Window& window) {
         origin.y += before.y;
     }
     return origin;
+}
+
+// The size that a window takes when it is asked to take `wanted`.
+POINT AllowedSize(const Window& window, POINT wanted) {
+    if (!window.IsTopLevel() || !window.Has(WS_THICKFRAME)) return wanted;
+    constexpr LONG kLargest = std::numeric_limits<SHORT>::max();
+    MINMAXINFO sizes{};
+    sizes.ptMaxTrackSize = {kLargest, kLargest};
+    SendMessageA(window.Self(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&sizes));
+    const POINT& least = sizes.ptMinTrackSize;
+    const POINT& most = sizes.ptMaxTrackSize;
+    return {std::max(std::min(wanted.x, most.x), least.x),
+            std::max(std::min(wanted.y, most.y), least.y)};
 }
 
 LONG_PTR* Value(Window& window, int index) {
@@ -191,9 +205,16 @@ BOOL GetClientRect(HWND window, LPRECT place) {
 BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL) {
     const auto found = Find(window);
     if (!found) return FALSE;
-    found->place = {x, y, x + std::max(width, 0), y + std::max(height, 0)};
+    const POINT size = AllowedSize(*found, {std::max(width, 0), std::max(height, 0)});
+    found->place = {x, y, x + size.x, y + size.y};
     SendMessageA(window, WM_MOVE, 0, MAKELPARAM(x, y));
-    SendMessageA(window, WM_SIZE, 0, MAKELPARAM(width, height));
+    SendMessageA(window, WM_SIZE, 0, MAKELPARAM(size.x, size.y));
+    ToView(window);
+    return TRUE;
+}
+
+BOOL InvalidateRect(HWND window, const RECT*, BOOL) {
+    if (!Find(window)) return FALSE;
     ToView(window);
     return TRUE;
 }

@@ -53,6 +53,7 @@ inline constexpr UINT WM_GETTEXTLENGTH = 0x000E;
 inline constexpr UINT WM_CLOSE = 0x0010;
 inline constexpr UINT WM_QUIT = 0x0012;
 inline constexpr UINT WM_SHOWWINDOW = 0x0018;
+inline constexpr UINT WM_GETMINMAXINFO = 0x0024;
 inline constexpr UINT WM_NOTIFY = 0x004E;
 inline constexpr UINT WM_NCDESTROY = 0x0082;
 inline constexpr UINT WM_GETDLGCODE = 0x0087;
@@ -134,7 +135,19 @@ HYDROFACTS_API BOOL IsWindowVisible(HWND window);
 
 HYDROFACTS_API BOOL GetWindowRect(HWND window, LPRECT place);
 HYDROFACTS_API BOOL GetClientRect(HWND window, LPRECT place);
+/// A top-level window with WS_THICKFRAME keeps to the sizes that it gives in WM_GETMINMAXINFO.
 HYDROFACTS_API BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
+/// Has the view draw a window anew; the rectangle doesn't matter, it is drawn whole.
+HYDROFACTS_API BOOL InvalidateRect(HWND window, const RECT* place, BOOL erase);
+
+/// What WM_GETMINMAXINFO points to: how large a window may become, in pixels.
+struct MINMAXINFO {
+    POINT ptReserved;
+    POINT ptMaxSize;
+    POINT ptMaxPosition;
+    POINT ptMinTrackSize;
+    POINT ptMaxTrackSize;
+};
 
 // Family.
 

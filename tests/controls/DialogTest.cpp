@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "tests/dialogs/TestDialog.h"
@@ -114,6 +115,74 @@ TEST(DialogWindow, MovesTheFocusWithAWordToBothSides) {
     EXPECT_THAT(dialog.TakeLog(), ElementsAre(Notification{kSecond, EN_KILLFOCUS}));
     EXPECT_EQ(GetFocus(), nullptr);
     EXPECT_TRUE(EnableWindow(dialog.Item(kSecond), TRUE));
+}
+
+// A page that stands in a dialog, with a radio group between two edits.
+enum : int { kPageEdit = 201, kPageFirst, kPageSecond, kPageButton };
+
+HWND MakePage(HWND dialog, HWND control) {
+    win32::DialogBuilder form("", WS_CHILD | DS_CONTROL, {70, 5, 100, 40}, WS_EX_CONTROLPARENT);
+    form.Edit(kPageEdit, {0, 0, 60, 12});
+    form.RadioButton(kPageFirst, "O&ne", {0, 14, 40, 10}, WS_GROUP | WS_TABSTOP);
+    form.RadioButton(kPageSecond, "&Two", {45, 14, 40, 10});
+    form.Button(kPageButton, "Go", {0, 26, 40, 12}, WS_GROUP);
+    const auto procedure = [](HWND page, UINT message, WPARAM wParam, LPARAM) -> INT_PTR {
+        if (message != WM_COMMAND || HIWORD(wParam) != BN_CLICKED) return message == WM_INITDIALOG;
+        SetPropA(page, "pressed", reinterpret_cast<HANDLE>(UINT_PTR{LOWORD(wParam)}));
+        return TRUE;
+    };
+    const HWND page = CreateDialogIndirectParamA(nullptr, form.Template(), dialog, procedure, 0);
+    EXPECT_EQ(GetFocus(), control) << "a page comes up hidden and takes no focus";
+    ShowWindow(page, SW_SHOW);
+    return page;
+}
+
+TEST(DialogWindow, LeadsThroughItsPages) {
+    TestDialog dialog(Form());
+    const HWND handle = dialog.Handle();
+    SetFocus(dialog.Item(IDCANCEL));
+    const HWND page = MakePage(handle, dialog.Item(IDCANCEL));
+    win32::user::PressTab(handle);
+    EXPECT_EQ(GetFocus(), GetDlgItem(page, kPageEdit));
+    win32::user::PressTab(handle);
+    EXPECT_EQ(GetFocus(), GetDlgItem(page, kPageFirst));
+    win32::user::PressKey(handle, VK_DOWN);
+    EXPECT_EQ(GetFocus(), GetDlgItem(page, kPageSecond));
+    EXPECT_EQ(IsDlgButtonChecked(page, kPageSecond), UINT{BST_CHECKED});
+    win32::user::PressKey(handle, VK_DOWN);
+    EXPECT_EQ(GetFocus(), GetDlgItem(page, kPageFirst)) << "the group ends on its page";
+
+    EXPECT_EQ(GetNextDlgTabItem(handle, GetDlgItem(page, kPageButton), FALSE), dialog.Item(kFirst));
+    EXPECT_EQ(GetNextDlgTabItem(handle, dialog.Item(kFirst), TRUE), GetDlgItem(page, kPageButton));
+    ShowWindow(page, SW_HIDE);
+    EXPECT_EQ(GetNextDlgTabItem(handle, dialog.Item(kFirst), TRUE), dialog.Item(IDCANCEL));
+    ShowWindow(page, SW_SHOW);
+    EnableWindow(page, FALSE);
+    EXPECT_EQ(GetNextDlgTabItem(handle, dialog.Item(kFirst), TRUE), dialog.Item(IDCANCEL));
+}
+
+TEST(DialogWindow, KeepsToTheSizesItAllows) {
+    static SIZE told;
+    const auto procedure = [](HWND, UINT message, WPARAM, LPARAM lParam) -> INT_PTR {
+        if (message == WM_SIZE) told = {LOWORD(lParam), HIWORD(lParam)};
+        if (message != WM_GETMINMAXINFO) return FALSE;
+        reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {300, 200};
+        return TRUE;
+    };
+    const win32::DialogBuilder form("Form", WS_POPUP | WS_THICKFRAME, {0, 0, 300, 200});
+    const HWND dialog = CreateDialogIndirectParamA(nullptr, form.Template(), nullptr, procedure, 0);
+    for (const SIZE wanted : {SIZE{100, 500}, SIZE{500, 100}, SIZE{400, 300}}) {
+        MoveWindow(dialog, 0, 0, wanted.cx, wanted.cy, TRUE);
+        RECT place{};
+        RECT client{};
+        GetWindowRect(dialog, &place);
+        GetClientRect(dialog, &client);
+        EXPECT_EQ(place.right - place.left, std::max<LONG>(wanted.cx, 300));
+        EXPECT_EQ(place.bottom - place.top, std::max<LONG>(wanted.cy, 200));
+        EXPECT_EQ(told.cx, client.right);
+        EXPECT_EQ(told.cy, client.bottom);
+    }
+    DestroyWindow(dialog);
 }
 
 struct Modal {
