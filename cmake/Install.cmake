@@ -24,12 +24,15 @@ function(hydrofacts_included_headers result)
 endfunction()
 hydrofacts_included_headers(public_headers hydrofacts/hydrofacts.h)
 
+# The view on Qt is a second library, whose header includes none of Qt's.
+set(qt_header win32/qt/QtView.h)
+
 # The other way round: what is exported has to be reachable, or no host could use it.
 file(GLOB_RECURSE headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/win32/*.h ${PROJECT_SOURCE_DIR}/quillbase/*.h
      ${PROJECT_SOURCE_DIR}/kvogui/*.h ${PROJECT_SOURCE_DIR}/hydrofacts/*.h)
 foreach(header IN LISTS headers)
-    if(NOT header IN_LIST public_headers)
+    if(NOT header IN_LIST public_headers AND NOT header STREQUAL qt_header)
         file(STRINGS ${PROJECT_SOURCE_DIR}/${header} exports REGEX "HYDROFACTS_API ")
         if(exports)
             message(SEND_ERROR "${header} exports names, but hydrofacts/hydrofacts.h doesn't reach it")
@@ -47,6 +50,18 @@ install(TARGETS hydrofacts EXPORT HydrofactsTargets
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+
+if(TARGET win32_qt)
+    install(FILES ${PROJECT_SOURCE_DIR}/${qt_header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/win32/qt
+            COMPONENT Qt)
+    # It finds the other library beside itself, wherever the two are put.
+    set_target_properties(win32_qt PROPERTIES INSTALL_RPATH "$ORIGIN")
+    install(TARGETS win32_qt EXPORT HydrofactsQtTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Qt
+        NAMELINK_COMPONENT Qt)
+    install(EXPORT HydrofactsQtTargets NAMESPACE Hydrofacts:: COMPONENT Qt
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Hydrofacts)
+endif()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Hydrofacts)
 install(EXPORT HydrofactsTargets NAMESPACE Hydrofacts:: DESTINATION ${package_dir})
