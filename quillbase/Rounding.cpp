@@ -50,12 +50,14 @@ double ProductError(double a, double b, double product) {
     return ((aHigh * bHigh - product) + aHigh * bLow + aLow * bHigh) + aLow * bLow;
 }
 
-// Rounds `value` + `tail`, a tail of at most half a unit in the last place of the value.
-double RoundHalfUp(double value, double tail) {
-    if (value >= kAllWhole) return tail >= 0.5 ? value + 1.0 : value;
+// Rounds `value` + `tail()`, a tail of at most half a unit in the last place of the value. The tail
+// is asked for only where the value alone doesn't decide, which is rare.
+template <typename Tail>
+double RoundHalfUp(double value, Tail tail) {
+    if (value >= kAllWhole) return tail() >= 0.5 ? value + 1.0 : value;
     const auto whole = static_cast<double>(static_cast<std::int64_t>(value));
     const double fraction = value - whole;
-    const bool up = fraction > 0.5 || (fraction == 0.5 && tail >= 0.0);
+    const bool up = fraction > 0.5 || (fraction == 0.5 && tail() >= 0.0);
     return up ? whole + 1.0 : whole;
 }
 
@@ -65,13 +67,15 @@ double RoundByPower(double value, int places) {
     if (places >= 0) {
         const double scaled = value * power;
         if (scaled >= kBeyondWhole) return value;
-        return RoundHalfUp(scaled, ProductError(value, power, scaled)) / power;
+        return RoundHalfUp(scaled, [&] { return ProductError(value, power, scaled); }) / power;
     }
     const double scaled = value / power;
     if (scaled >= kBeyondWhole) return value;
-    const double back = scaled * power;
-    const double rest = (value - back) - ProductError(scaled, power, back);
-    return RoundHalfUp(scaled, rest / power) * power;
+    const auto tail = [&] {
+        const double back = scaled * power;
+        return ((value - back) - ProductError(scaled, power, back)) / power;
+    };
+    return RoundHalfUp(scaled, tail) * power;
 }
 
 // The largest double takes 1024 bits, the smallest has its last one at 2⁻¹⁰⁷⁴, and 400 places are
