@@ -1,6 +1,7 @@
 #ifndef HYDROFACTS_HYDROFACTS_H
 #define HYDROFACTS_HYDROFACTS_H
 
+/// @file
 /// All public headers of Hydrofacts.
 
 #include "hydrofacts/dialogs/Atmospheric_Pressure_From_Elevation_Dialog.h"

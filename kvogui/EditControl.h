@@ -13,6 +13,7 @@ namespace kvo::gui {
 /// A text that a user types.
 class HYDROFACTS_API EditControl : public Win32Control {
   public:
+    /// The control with that id in the template of the dialog that it is added to.
     static boost::shared_ptr<EditControl> new_control(int id);
     ~EditControl() override;
 
@@ -22,6 +23,7 @@ class HYDROFACTS_API EditControl : public Win32Control {
         const boost::function<void(EditControl&)>& slot);
 
   protected:
+    /// For classes that derive: what new_control makes.
     explicit EditControl(int id);
     void notified(int code) override;
 

@@ -5,7 +5,7 @@
 
 /// The name by which connections are known to hosts.
 namespace boost::signals {
-using connection = signals2::connection;
+using connection = signals2::connection;  ///< ends what a slot listens to
 }  // namespace boost::signals
 
 #endif

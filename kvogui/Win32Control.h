@@ -12,6 +12,7 @@ class HYDROFACTS_API Win32Control : public Control {
   public:
     ~Win32Control() override;
 
+    /// The id in the template.
     int id() const;
 
     /// The control's window; null while the dialog isn't shown, or if it has no such control.
@@ -25,6 +26,7 @@ class HYDROFACTS_API Win32Control : public Control {
     virtual void setText(std::string text);
 
   protected:
+    /// The control with that id in the template of the dialog that it is added to.
     explicit Win32Control(int id);
 
     /// Acts on what the control tells (EN_CHANGE, BN_CLICKED …). Does nothing by itself.

@@ -9,10 +9,15 @@
 /// was given, so that it comes back in that unit unchanged.
 class HYDROFACTS_API CAtmPressure {
   public:
+    /// The standard atmosphere.
     CAtmPressure();
     ~CAtmPressure();
+
+    /// The same pressure in the same unit.
+    /// @{
     CAtmPressure(const CAtmPressure&) = default;
     CAtmPressure& operator=(const CAtmPressure&) = default;
+    /// @}
 
     /// Sets the pressure, absolute, in a true pressure unit (ids 0 to 7; any other counts as psi).
     void SetValue(double value, HF_PUNITS unit);

@@ -1,6 +1,9 @@
 #ifndef QUILLBASE_DIRECTORY_H
 #define QUILLBASE_DIRECTORY_H
 
+/// @file
+/// Where the table files lie.
+
 #include "win32/Export.h"
 
 /// The directories that the library knows. Numbers are the ids that hosts use.

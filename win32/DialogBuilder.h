@@ -1,8 +1,9 @@
 #ifndef WIN32_DIALOGBUILDER_H
 #define WIN32_DIALOGBUILDER_H
 
-// Writes dialog templates in C++. The result is the extended template that resource compilers
-// write, so CreateDialogIndirectParamA and DialogBoxIndirectParamA take it on every platform.
+/// @file
+/// Writes dialog templates in C++. The result is the extended template that resource compilers
+/// write, so CreateDialogIndirectParamA and DialogBoxIndirectParamA take it on every platform.
 
 #include <string_view>
 #include <vector>
@@ -13,7 +14,10 @@ namespace win32 {
 
 /// A place in dialog units: a quarter of the font's mean width, an eighth of its height.
 struct DialogPlace {
-    short x, y, width, height;
+    short x;       ///< left side, from that of the dialog's client area
+    short y;       ///< top side, from that of the dialog's client area
+    short width;   ///< from left to right
+    short height;  ///< from top to bottom
 };
 
 /// Builds one dialog template. Texts are Windows-1252.
@@ -27,6 +31,8 @@ struct DialogPlace {
 /// is that of a control that nobody asks for.
 class HYDROFACTS_API DialogBuilder {
   public:
+    /// A dialog without controls: its title, its WS_ and DS_ styles, its place on the screen (or in
+    /// its parent if it is a child) and its WS_EX_ styles. The font is 8 point "MS Shell Dlg".
     DialogBuilder(std::string_view title, DWORD style, DialogPlace place, DWORD exStyle = 0);
 
     /// Any control: `className` is one of "Button", "Edit", "Static", "ListBox", "ComboBox" and
@@ -37,15 +43,20 @@ class HYDROFACTS_API DialogBuilder {
     // The usual kinds: visible, with a tab stop where a user can work with them. `style` adds to
     // it.
 
+    /// A text. An & in it underlines the next letter, which goes to the control that follows.
     DialogBuilder& Static(int id, std::string_view text, DialogPlace place, DWORD style = 0);
     /// One line with a border, scrolling as it is typed into.
     DialogBuilder& Edit(int id, DialogPlace place, DWORD style = 0);
+    /// A push button.
     DialogBuilder& Button(int id, std::string_view text, DialogPlace place, DWORD style = 0);
+    /// The push button that Enter presses.
     DialogBuilder& DefaultButton(int id, std::string_view text, DialogPlace place);
+    /// A check box that a click checks and unchecks.
     DialogBuilder& CheckBox(int id, std::string_view text, DialogPlace place);
     /// A radio button that unchecks the others of its group. The first one of a group gets
     /// WS_GROUP | WS_TABSTOP as `style`, and so does the control that follows the last one.
     DialogBuilder& RadioButton(int id, std::string_view text, DialogPlace place, DWORD style = 0);
+    /// A frame with a title; it groups nothing but what is seen.
     DialogBuilder& GroupBox(int id, std::string_view text, DialogPlace place);
     /// Tells of selections (LBS_NOTIFY); not sorted unless `style` says LBS_SORT.
     DialogBuilder& ListBox(int id, DialogPlace place, DWORD style = 0);

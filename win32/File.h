@@ -1,8 +1,9 @@
 #ifndef WIN32_FILE_H
 #define WIN32_FILE_H
 
-// Files: open, read, write, flush, close, replace, delete. Names and results as in Win32; only the
-// combinations of arguments that the library uses are supported, others fail.
+/// @file
+/// Files: open, read, write, flush, close, replace, delete. Names and results as in Win32; only the
+/// combinations of arguments that the library uses are supported, others fail.
 
 #include "win32/Types.h"
 

@@ -1,8 +1,9 @@
 #ifndef WIN32_FILESEARCH_H
 #define WIN32_FILESEARCH_H
 
-// Directory search by a pattern with * and ?, in the order in which the system lists the directory.
-// The name part is matched with case, as the file system does; the extension without.
+/// @file
+/// Directory search by a pattern with * and ?, in the order in which the system lists the
+/// directory. The name part is matched with case, as the file system does; the extension without.
 
 #include "win32/Types.h"
 

@@ -1,11 +1,15 @@
 #ifndef WIN32_KEYBOARD_H
 #define WIN32_KEYBOARD_H
 
-// Keys, and which of them are held, as each thread sees it.
+/// @file
+/// Keys, and which of them are held, as each thread sees it.
 
 #include "win32/Export.h"
 #include "win32/Types.h"
 
+/// Keys: wParam of WM_KEYDOWN and WM_KEYUP. Digits and letters are the characters '0' to '9' and
+/// 'A' to 'Z'.
+/// @{
 inline constexpr int VK_BACK = 0x08;
 inline constexpr int VK_TAB = 0x09;
 inline constexpr int VK_RETURN = 0x0D;
@@ -31,11 +35,13 @@ inline constexpr int VK_F4 = 0x73;
 inline constexpr int VK_OEM_COMMA = 0xBC;
 inline constexpr int VK_OEM_MINUS = 0xBD;
 inline constexpr int VK_OEM_PERIOD = 0xBE;
+/// @}
 
 /// Negative while the key is held.
 HYDROFACTS_API SHORT GetKeyState(int key);
 /// All 256 keys: the high bit of a byte says that the key is held.
 HYDROFACTS_API BOOL GetKeyboardState(BYTE* keys);
+/// Takes over the state of all 256 keys, for this thread. Always TRUE.
 HYDROFACTS_API BOOL SetKeyboardState(BYTE* keys);
 
 #endif

@@ -1,15 +1,23 @@
 #ifndef WIN32_LISTBOX_H
 #define WIN32_LISTBOX_H
 
-// The list box, class "ListBox": rows of text, of which one may be selected.
+/// @file
+/// The list box, class "ListBox": rows of text, of which one may be selected.
 
 #include "win32/Types.h"
 
+/// Styles. Only with LBS_NOTIFY does a list tell of selections; LBS_SORT keeps the rows sorted as
+/// people read them.
+/// @{
 inline constexpr DWORD LBS_NOTIFY = 0x0001;
 inline constexpr DWORD LBS_SORT = 0x0002;
 inline constexpr DWORD LBS_HASSTRINGS = 0x0040;
 inline constexpr DWORD LBS_NOINTEGRALHEIGHT = 0x0100;
+/// @}
 
+/// Messages to a list box. Rows are counted from 0; where a row is asked for, wParam is its index
+/// and lParam a text or its data. LB_ERR answers what cannot be.
+/// @{
 inline constexpr UINT LB_ADDSTRING = 0x0180;
 inline constexpr UINT LB_INSERTSTRING = 0x0181;
 inline constexpr UINT LB_DELETESTRING = 0x0182;
@@ -28,12 +36,18 @@ inline constexpr UINT LB_GETITEMDATA = 0x0199;
 inline constexpr UINT LB_SETITEMDATA = 0x019A;
 inline constexpr UINT LB_GETITEMHEIGHT = 0x01A1;
 inline constexpr UINT LB_FINDSTRINGEXACT = 0x01A2;
+/// @}
 
+/// The result of a message that cannot be carried out: no such row, no selection.
 inline constexpr LRESULT LB_ERR = -1;
 
+/// What a list box tells its dialog, as HIWORD(wParam) of WM_COMMAND. A selection by a message
+/// tells nothing.
+/// @{
 inline constexpr WORD LBN_SELCHANGE = 1;
 inline constexpr WORD LBN_DBLCLK = 2;
 inline constexpr WORD LBN_SETFOCUS = 4;
 inline constexpr WORD LBN_KILLFOCUS = 5;
+/// @}
 
 #endif

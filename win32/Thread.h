@@ -1,7 +1,8 @@
 #ifndef WIN32_THREAD_H
 #define WIN32_THREAD_H
 
-// Threads: start one, wait for its end. CloseHandle gives the handle back; the thread goes on.
+/// @file
+/// Threads: start one, wait for its end. CloseHandle gives the handle back; the thread goes on.
 
 #include <cstddef>
 

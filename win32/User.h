@@ -1,10 +1,11 @@
 #ifndef WIN32_USER_H
 #define WIN32_USER_H
 
-// What a person does with a dialog, done by a program: tests and hosts drive dialogs with it. Each
-// act raises what the same act raises from keyboard and mouse, before the function returns. The
-// functions give false, and nothing happens, where a person couldn't do it: a control that is gone,
-// disabled, or in a disabled dialog. They belong on the thread that owns the dialog.
+/// @file
+/// What a person does with a dialog, done by a program: tests and hosts drive dialogs with it. Each
+/// act raises what the same act raises from keyboard and mouse, before the function returns. The
+/// functions give false, and nothing happens, where a person couldn't do it: a control that is
+/// gone, disabled, or in a disabled dialog. They belong on the thread that owns the dialog.
 
 #include "win32/Win32.h"
 

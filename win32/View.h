@@ -1,8 +1,9 @@
 #ifndef WIN32_VIEW_H
 #define WIN32_VIEW_H
 
-// What a program implements that draws the windows of a thread with a toolkit and brings the user's
-// keys and clicks. Without a view everything works as well, unseen.
+/// @file
+/// What a program implements that draws the windows of a thread with a toolkit and brings the
+/// user's keys and clicks. Without a view everything works as well, unseen.
 
 #include "win32/Window.h"
 
@@ -16,12 +17,14 @@ inline constexpr SIZE kBaseUnits{6, 13};
 /// calls.
 class HYDROFACTS_API View {
   public:
+    /// The view must not be any thread's any more.
     virtual ~View();
 
-    /// A window is complete, or shows something else: text, rows, selection, state, place.
+    /// A window is complete.
     virtual void Created(HWND window) = 0;
+    /// A window shows something else: text, rows, selection, state, place.
     virtual void Changed(HWND window) = 0;
-    /// The handle is void already.
+    /// A window has gone; the handle is void already.
     virtual void Destroyed(HWND window) = 0;
 
     /// Lets the toolkit work, for `milliseconds` at most, until it has put a message into the

@@ -1,8 +1,9 @@
 #ifndef WIN32_WIN32_H
 #define WIN32_WIN32_H
 
-// The one way by which the rest of the project reaches the Win32 API: the real headers on Windows,
-// the project's own slice of it, with the same names, elsewhere.
+/// @file
+/// The one way by which the rest of the project reaches the Win32 API: the real headers on Windows,
+/// the project's own slice of it, with the same names, elsewhere.
 
 #include "win32/Export.h"
 

@@ -43,18 +43,20 @@ class HYDROFACTS_API Atmospheric_Pressure_From_Elevation_Dialog : public kvo::gu
     bool showModal(HWND parent);
 
   protected:
+    /// As new_Atmospheric_Pressure_From_Elevation_Dialog, which makes the shared owner that
+    /// showModal needs.
     Atmospheric_Pressure_From_Elevation_Dialog(POINT position, HF_PUNITS pressureUnit,
                                                HF_LENGTH_UNITS lengthUnit, HWND targetDialog,
                                                int targetId);
     void init() override;
 
-    POINT m_position;
-    HF_PUNITS m_pressureUnit;
-    HF_LENGTH_UNITS m_lengthUnit;  // HF_LEN_FT or HF_LEN_M
-    boost::shared_ptr<kvo::gui::StaticControl> m_unitLabel;
-    boost::shared_ptr<kvo::gui::EditControl> m_elevationEdit;
-    int m_targetId;
-    HWND m_targetDialog;
+    POINT m_position;                                          ///< top left corner, on the screen
+    HF_PUNITS m_pressureUnit;                                  ///< of the result
+    HF_LENGTH_UNITS m_lengthUnit;                              ///< HF_LEN_FT or HF_LEN_M
+    boost::shared_ptr<kvo::gui::StaticControl> m_unitLabel;    ///< says which length unit
+    boost::shared_ptr<kvo::gui::EditControl> m_elevationEdit;  ///< what the user types
+    int m_targetId;                                            ///< the control with the result
+    HWND m_targetDialog;                                       ///< and its dialog
 
   private:
     HYDROFACTS_HIDDEN void handle_elevation_change();

@@ -59,14 +59,17 @@ class HYDROFACTS_API CFluidDlg : public CFluid {
     CFluidDlg(Units* units);
 
     /// The copy is attached to the same dialog.
+    /// @{
     CFluidDlg(const CFluidDlg& other);
     CFluidDlg& operator=(const CFluidDlg& other);
+    /// @}
 
     /// Ends the delays of the dialog's edits, if the dialog is still there.
     ~CFluidDlg();
 
     /// Nonzero if the user has altered the fluid since the host last set it.
     int Changed();
+    /// Says so, or that it has taken over what the user did.
     void SetChanged(bool changed);
 
     // Wiring
@@ -77,10 +80,12 @@ class HYDROFACTS_API CFluidDlg : public CFluid {
     /// left. With a `state` other than FLUID_NONE only tables with formulas of that state are
     /// listed and the present fluid is cleared. Tables with levels outside the limits are not
     /// listed; a limit of 0.0 tests nothing. Always 1.
+    /// @{
     int InitFluids(HWND dialog, const char* tableDir);
     int InitFluids(HWND dialog, const char* tableDir, FLUIDSTATE state);
     int InitFluids(HWND dialog, const char* tableDir, FLUIDSTATE state, double highLimit,
                    double lowLimit);
+    /// @}
 
     /// Acts on a notification of a control: a pick from the list, typing in temperature, pressure
     /// or name, leaving them. True if it was one of these. The radio buttons are the host's.
@@ -114,10 +119,10 @@ class HYDROFACTS_API CFluidDlg : public CFluid {
     bool GetProperties(FLUIDSTATE state);
 
   protected:
-    std::int32_t m_changed;
-    std::int32_t m_useSG;
-    HWND m_hDlg;
-    char m_tableDir[261];
+    std::int32_t m_changed;  ///< what Changed gives
+    std::int32_t m_useSG;    ///< whether 10008 holds the specific gravity
+    HWND m_hDlg;             ///< the dialog, null while attached to none
+    char m_tableDir[261];    ///< the directory of the tables in the list
 
   private:
     HYDROFACTS_HIDDEN hydrofacts::FluidForm Form() const;

@@ -38,8 +38,11 @@ class HYDROFACTS_API CPipeTableDlg : public CPipeTable {
     /// An empty table in a unit system, attached to no dialog.
     CPipeTableDlg(HF_UNITS system);
 
+    /// The copy is attached to the same dialog.
+    /// @{
     CPipeTableDlg(const CPipeTableDlg& other);
     CPipeTableDlg& operator=(const CPipeTableDlg& other);
+    /// @}
     ~CPipeTableDlg();
 
     /// Attaches to a dialog and adds the materials of a directory to its tree, sorted by name, each
@@ -47,8 +50,10 @@ class HYDROFACTS_API CPipeTableDlg : public CPipeTable {
     /// limits (0.0 tests nothing; 9.0 and 1.0 in the short form), those whose roughness in the unit
     /// system is 0 or missing, and names of more than 30 characters, of materials and of schedules.
     /// Nothing is selected. Always 1.
+    /// @{
     int InitPipeMaterials(HWND dialog, const char* tableDir);
     int InitPipeMaterials(HWND dialog, const char* tableDir, double highLimit, double lowLimit);
+    /// @}
 
     /// Acts on a notification of a control. A selection in the tree loads the material, and the
     /// schedule if it is one; a pick in the combo box shows the inside diameter in parentheses.
@@ -64,9 +69,9 @@ class HYDROFACTS_API CPipeTableDlg : public CPipeTable {
     void SetUnit(HF_UNITS system);
 
   protected:
-    HIMAGELIST m_imageList;  // of a tree that shows pipes; the host's to destroy
-    HWND m_hDlg;
-    char m_tableDir[260];
+    HIMAGELIST m_imageList;  ///< of a tree that shows pipes; the host's to destroy
+    HWND m_hDlg;             ///< the dialog, null while attached to none
+    char m_tableDir[260];    ///< the directory of the tables in the tree
 
   private:
     HYDROFACTS_HIDDEN void ItemSelected();

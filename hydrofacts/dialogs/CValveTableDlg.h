@@ -1,6 +1,9 @@
 #ifndef HYDROFACTS_DIALOGS_CVALVETABLEDLG_H
 #define HYDROFACTS_DIALOGS_CVALVETABLEDLG_H
 
+/// @file
+/// The valve dialog, and the symbols of its trees.
+
 #include <memory>
 
 #include "hydrofacts/valve/CValveTable.h"
@@ -39,8 +42,11 @@ class HYDROFACTS_API CValveTableDlg : public CValveTable {
     /// An empty table, attached to a dialog whose two trees get the symbols.
     CValveTableDlg(HWND dialog);
 
+    /// The copy is attached to the same dialog and shares the symbols.
+    /// @{
     CValveTableDlg(const CValveTableDlg& other);
     CValveTableDlg& operator=(const CValveTableDlg& other);
+    /// @}
     ~CValveTableDlg();
 
     /// Adds the valve tables of a directory to the combo box of a dialog, in the order in which the
@@ -54,8 +60,8 @@ class HYDROFACTS_API CValveTableDlg : public CValveTable {
     LONG_PTR DlgCommand(int id, int code, LONG_PTR lParam);
 
   protected:
-    HIMAGELIST m_imageList;
-    HWND m_hDlg;
+    HIMAGELIST m_imageList;  ///< the symbols
+    HWND m_hDlg;             ///< the dialog
 
   private:
     HYDROFACTS_HIDDEN void BuildImageList();

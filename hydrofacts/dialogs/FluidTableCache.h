@@ -1,6 +1,9 @@
 #ifndef HYDROFACTS_DIALOGS_FLUIDTABLECACHE_H
 #define HYDROFACTS_DIALOGS_FLUIDTABLECACHE_H
 
+/// @file
+/// The list of usable fluid tables, filled in the background.
+
 #include "win32/Export.h"
 
 /// Starts to find out in the background which fluid tables of the directory of table files are

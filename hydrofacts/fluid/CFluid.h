@@ -1,6 +1,9 @@
 #ifndef HYDROFACTS_FLUID_CFLUID_H
 #define HYDROFACTS_FLUID_CFLUID_H
 
+/// @file
+/// A fluid at a set point, and its states.
+
 #include <cstdint>
 
 #include "hydrofacts/formula/CFormula.h"
@@ -12,11 +15,11 @@ class TextFile;
 
 /// The state of a fluid at its set point.
 enum FLUIDSTATE : int {
-    FLUID_NONE = 0,  ///< nothing set, or the set point is outside what the fluid's data allow
-    FLUID_LIQUID = 1,
-    FLUID_VAPOR = 2,
+    FLUID_NONE = 0,    ///< nothing set, or the set point is outside what the fluid's data allow
+    FLUID_LIQUID = 1,  ///< a table has the properties of the liquid there
+    FLUID_VAPOR = 2,   ///< a table has the properties of the vapor there
     FLUID_USER_LIQUID = 3,  ///< the properties were given, not computed
-    FLUID_USER_VAPOR = 4,
+    FLUID_USER_VAPOR = 4,   ///< the same of a vapor
 };
 
 /// One fluid at one set point of temperature and pressure.
@@ -70,10 +73,13 @@ class HYDROFACTS_API CFluid {
     /// Sets the system, which density follows (lb/ft³ or kg/m³); the user units stay.
     void SetEnglishOrMetric(HF_UNITS system);
 
+    /// The user units of the unit object as it is now, and their texts.
+    /// @{
     HF_TUNITS GetTunit() const;
     HF_PUNITS GetPunit() const;
     const char* GetTempUnits() const;
     const char* GetPresUnits() const;
+    /// @}
 
     // The fluid and its set point
 
@@ -107,7 +113,10 @@ class HYDROFACTS_API CFluid {
     /// stays one. Whether the formulas hold there is for SetPointIsValid to say.
     void SetFluidVapor(double pressure);
 
+    /// The name of the table or the one given; empty if there is no fluid. It belongs to this
+    /// object.
     const char* GetFluidName() const;
+    /// The state found when the set point was last set.
     FLUIDSTATE GetFluidState();
 
     /// Temperature of the set point, user unit.
@@ -123,15 +132,19 @@ class HYDROFACTS_API CFluid {
     /// Absolute, user pressure unit of the time of loading.
     double GetCriticalPres() const;
 
+    /// Whether the state is FLUID_LIQUID or FLUID_USER_LIQUID.
     bool IsLiquid() const;
+    /// Whether the state is FLUID_LIQUID or FLUID_VAPOR.
     bool IsTableFluid() const;
 
     /// Whether the fluid has sound properties at a point in user units, in the given state or in
     /// its own: 1 if the point is in the formulas' ranges and density, viscosity and vapor pressure
     /// (for a vapor: ratio of specific heats) come out above zero, else 0. Always 0 but for
     /// FLUID_LIQUID and FLUID_VAPOR.
+    /// @{
     int SetPointIsValid(double temperature, double pressure, FLUIDSTATE state);
     int SetPointIsValid(double temperature, double pressure);
+    /// @}
 
     /// Gives the unit object a new atmospheric pressure in the user pressure unit, unless the fluid
     /// has no name. The state is not looked at again. Always true.
@@ -176,6 +189,7 @@ class HYDROFACTS_API CFluid {
     /// The equation of state: 0 none, 1 ideal gas, 2 Peng-Robinson, 3 Redlich-Kwong,
     /// 4 Soave-Redlich-Kwong.
     int EqnState();
+    /// Whether the equation of state is that of the ideal gas.
     bool IsIdealGas() const;
 
     /// Makes the vapor an ideal gas for good.
@@ -204,17 +218,23 @@ class HYDROFACTS_API CFluid {
 
     // Measures tagged with their units
 
+    /// What the getter of the same name gives, in the user unit: GetVaporPresValue that of
+    /// GetUVaporPres. The critical pressure is tagged with the user unit of now.
+    /// @{
     UnitValue<HF_TEMPERATURE, 0> GetTemperatureValue() const;
     UnitValue<HF_PRESSURE, 0> GetPressureValue() const;
     UnitValue<HF_PRESSURE, 0> GetAbsPressureValue() const;
     UnitValue<HF_PRESSURE, 0> GetVaporPresValue() const;
     UnitValue<HF_PRESSURE, 0> GetCriticalPresValue() const;
+    /// @}
     /// In lb/ft³ in the US system, else in kg/m³.
     UnitValue<HF_DENSITY, 0> GetDensityValue() const;
     /// In the user viscosity unit, with a copy of this fluid.
     UnitValue<HF_VISCOSITY, 0> GetViscosityValue() const;
 
   protected:
+    /// Forgets the fluid: name, state, set point, constants and ranges. The formulas stay, and are
+    /// not used without the ranges.
     void ClearFluid();
 
     /// Reads lines until one begins with D, P or V or the file ends. `line` has room for 260 bytes;
@@ -224,12 +244,15 @@ class HYDROFACTS_API CFluid {
     /// Loads a table: 1 if the fluid is usable, 0 if the table is missing or invalid or its levels
     /// lie outside the limits (0.0: no limit). After a failure the numbers may be partly those of
     /// the file; slots behind the end of a short file are empty.
+    /// @{
     int LoadFluidTable(const char* directory, const char* name, double highLimit, double lowLimit);
     int LoadFluidTable(const char* directory, const char* name);
+    /// @}
 
     /// The state of this table fluid at a point in user units; FLUID_NONE between the saturation
     /// curves and outside the data.
     FLUIDSTATE FindFluidState(double temperature, double pressure);
+    /// Whether there are formulas for FLUID_LIQUID or FLUID_VAPOR; no other state has any.
     bool FormulasExist(FLUIDSTATE state);
     /// The range test, in kelvin and kPa absolute: 1 or 0.
     int FormulasAreValid(FLUIDSTATE state, double tempK, double presKPa);
@@ -242,8 +265,9 @@ class HYDROFACTS_API CFluid {
     /// Density, in the fluid's system, of a specific gravity.
     double CalcDen(double sg);
 
-    /// Density in the fluid's system to kg/m³, and back with four significant digits.
+    /// Density in the fluid's system, lb/ft³ or kg/m³, to kg/m³.
     double kgDen(double density) const;
+    /// Density in kg/m³ to the fluid's system, four significant digits.
     double UserDen(double densityKg) const;
     /// Kelvin to the user unit, four significant digits.
     double UserTemp(double tempK);
@@ -251,22 +275,22 @@ class HYDROFACTS_API CFluid {
     /// atmosphere off, so that the result is a user pressure.
     double UserPres(double presKPa, int bAbsolute) const;
 
-    char m_name[64];
-    Units* m_pUnits;
-    bool m_bOwnsUnits;
-    FLUIDSTATE m_state;
-    mutable double m_molecularWt;  // CalcSG fills it in
-    double m_criticalTemp;         // user unit of the time of loading
-    double m_criticalPres;         // user unit of the time of loading, absolute
-    double m_liquidMinTemp;        // K
-    double m_liquidMaxTemp;        // K
-    double m_vaporMinTemp;         // K
-    double m_vaporMaxTemp;         // K
-    double m_vaporMaxPres;         // kPa absolute
-    CFormula m_formulas[7];
-    double m_temperature;  // user unit
-    double m_pressure;     // user unit, gauge unless in absolute mode
-    std::int32_t m_savedEqnState;
+    char m_name[64];               ///< the table's name or the one given
+    Units* m_pUnits;               ///< the unit object, owned or borrowed
+    bool m_bOwnsUnits;             ///< whether it goes with this fluid
+    FLUIDSTATE m_state;            ///< as of the last set point
+    mutable double m_molecularWt;  ///< kg/kmol; CalcSG fills it in
+    double m_criticalTemp;         ///< user unit of the time of loading
+    double m_criticalPres;         ///< user unit of the time of loading, absolute
+    double m_liquidMinTemp;        ///< K
+    double m_liquidMaxTemp;        ///< K
+    double m_vaporMinTemp;         ///< K
+    double m_vaporMaxTemp;         ///< K
+    double m_vaporMaxPres;         ///< kPa absolute
+    CFormula m_formulas[7];        ///< by FORMULASLOT
+    double m_temperature;          ///< user unit
+    double m_pressure;             ///< user unit, gauge unless in absolute mode
+    std::int32_t m_savedEqnState;  ///< the equation that SetIdealGas(true) put aside
 
   private:
     /// A set point and the critical temperature in the units of the formulas.

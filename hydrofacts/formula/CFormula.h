@@ -1,6 +1,9 @@
 #ifndef HYDROFACTS_FORMULA_CFORMULA_H
 #define HYDROFACTS_FORMULA_CFORMULA_H
 
+/// @file
+/// The formulas of a fluid: what each of the seven computes, and how.
+
 #include <cstdint>
 
 #include "win32/Export.h"
@@ -8,13 +11,13 @@
 /// What a formula computes. In a fluid's table the record of a slot is P and the slot's number
 /// plus 1.
 enum FORMULASLOT : int {
-    SLOT_LIQUID_SAT_PRES = 0,  ///< also the vapor pressure
-    SLOT_VAPOR_SAT_PRES = 1,   ///< where it differs from slot 0: blends and air
-    SLOT_LIQUID_DENSITY = 2,
-    SLOT_LIQUID_VISCOSITY = 3,
-    SLOT_VAPOR_DENSITY = 4,  ///< its type is the equation of state
-    SLOT_VAPOR_VISCOSITY = 5,
-    SLOT_VAPOR_SPHEAT = 6,
+    SLOT_LIQUID_SAT_PRES = 0,   ///< also the vapor pressure
+    SLOT_VAPOR_SAT_PRES = 1,    ///< where it differs from slot 0: blends and air
+    SLOT_LIQUID_DENSITY = 2,    ///< kg/m³
+    SLOT_LIQUID_VISCOSITY = 3,  ///< cP
+    SLOT_VAPOR_DENSITY = 4,     ///< its type is the equation of state
+    SLOT_VAPOR_VISCOSITY = 5,   ///< cP, at low pressure
+    SLOT_VAPOR_SPHEAT = 6,      ///< ratio of specific heats, from the heat capacity
 };
 
 /// One fitted property correlation of a fluid: which property (slot), which equation form (type),
@@ -41,9 +44,11 @@ class HYDROFACTS_API CFormula {
   public:
     /// Slot 0, empty.
     CFormula();
+    /// The same formula.
     CFormula(const CFormula&) = default;
     ~CFormula() = default;
 
+    /// Takes over slot, type and coefficients.
     void operator=(const CFormula& other);
 
     /// Same slot and type, and coefficients that are equal as computed numbers (EqualDbl).

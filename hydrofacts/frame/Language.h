@@ -1,6 +1,9 @@
 #ifndef HYDROFACTS_FRAME_LANGUAGE_H
 #define HYDROFACTS_FRAME_LANGUAGE_H
 
+/// @file
+/// The language of messages and of numbers that are shown.
+
 #include "win32/Export.h"
 
 /// Chooses the language of the library's messages and displayed numbers, by a Windows language

@@ -39,8 +39,11 @@ class HYDROFACTS_API CPipeTable {
     /// An empty table in a unit system.
     CPipeTable(HF_UNITS system);
 
+    /// Copies names, figures and sizes.
+    /// @{
     CPipeTable(const CPipeTable& other);
     CPipeTable& operator=(const CPipeTable& other);
+    /// @}
     ~CPipeTable();
 
     // Loading
@@ -84,17 +87,23 @@ class HYDROFACTS_API CPipeTable {
     /// True if sizes are loaded.
     bool IsValid() const;
 
+    /// The names last taken, of at most 31 characters; empty if there is none. They belong to this
+    /// object.
+    /// @{
     char* GetMaterialName();
     const char* GetMaterialName() const;
     char* GetScheduleName();
     const char* GetScheduleName() const;
+    /// @}
 
     /// Hazen-Williams C, no unit; 0.0 if the table gives none.
     double GetHWC() const;
 
     /// Absolute roughness in the table's length unit.
+    /// @{
     double GetAbsRoughness() const;
     UnitValue<HF_LENGTH, 0> GetAbsRoughnessValue() const;
+    /// @}
 
     // Lookups. All give 0.0 if no schedule is loaded. A nominal size is found only if it is exactly
     // the table's number.
@@ -102,9 +111,11 @@ class HYDROFACTS_API CPipeTable {
     /// Inside diameter of a nominal size, given as text with a point as decimal sign, as a number
     /// in the table's length unit, or in any length unit. 0.0 if the schedule doesn't have the
     /// size. The result is in the table's length unit.
+    /// @{
     double PipeDia(const char* nominal) const;
     double PipeDia(double nominal) const;
     UnitValue<HF_LENGTH, 0> PipeDia(const UnitValue<HF_LENGTH, 0>& nominal) const;
+    /// @}
 
     /// The nominal size whose inside diameter is nearest to a diameter, the larger of two at equal
     /// distance.
@@ -124,13 +135,13 @@ class HYDROFACTS_API CPipeTable {
     /// not 0.0.
     bool IsListed(TextFile& file, double highLimit, double lowLimit) const;
 
-    char path[261];
-    char material[32];
-    char schedule[32];
-    double abs_roughness;  // table's length unit
-    double hwc;
-    HF_UNITS units;
-    t_pipe_size* pipe_list;  // owned
+    char path[261];          ///< of the material's table file
+    char material[32];       ///< cut to 31 characters
+    char schedule[32];       ///< cut to 31 characters
+    double abs_roughness;    ///< table's length unit
+    double hwc;              ///< Hazen-Williams C, 0.0 if the table gives none
+    HF_UNITS units;          ///< inches for HF_US, else millimetres
+    t_pipe_size* pipe_list;  ///< the sizes in the order of the file, owned
 
   private:
     HF_LENGTH_UNITS LengthUnit() const;

@@ -26,6 +26,7 @@
 /// part.
 class HYDROFACTS_API CPipeTableList : public CPipeTable {
   public:
+    /// Lists what there is in a unit system; nothing is loaded.
     CPipeTableList(HF_UNITS system);
 
     /// The bytes that a buffer for ListPipeTables needs; 2 if no table is installed.

@@ -21,18 +21,25 @@ class CFluid;
 template <int type, int n>
 class UnitValue {
   public:
+    /// 0.0 in the unit of id 0.
     UnitValue();
+
+    /// A number in unit `unit`, an id of the measure, without a fluid.
     UnitValue(int unit, double value);
 
     /// Copies the fluid too: each value owns its own. The copy converts with Units::defaultUnits().
     UnitValue(const UnitValue& other);
+    /// Takes the fluid over too, and the object that converts.
     UnitValue(UnitValue&& other) noexcept;
+    /// As the copy: unit, number and fluid, with Units::defaultUnits() to convert.
     UnitValue& operator=(const UnitValue& other);
+    /// As the move.
     UnitValue& operator=(UnitValue&& other) noexcept;
     ~UnitValue();
 
-    /// A viscosity in unit `unit` with a copy of its fluid.
+    /// A viscosity of 0.0 in unit `unit` with a copy of its fluid.
     UnitValue(int unit, const CFluid& fluid) requires(type == HF_VISCOSITY);
+    /// The same with a number.
     UnitValue(int unit, const CFluid& fluid, double value) requires(type == HF_VISCOSITY);
 
     /// The number as it stands.

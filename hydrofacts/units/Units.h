@@ -46,7 +46,9 @@ class HYDROFACTS_API Units : public CAtmPressure {
     /// Sets the unit system; with `setDefaults` also all twelve user units, to those of HF_US for
     /// HF_US and to those of HF_METRIC for anything else.
     void SetSystem(HF_UNITS system, bool setDefaults);
+    /// Whether the system is HF_US.
     bool bUS() const;
+    /// Whether the system is HF_METRIC; a system that is neither is none of the two.
     bool bMetric() const;
 
     /// The object with which every UnitValue converts; a change made through it is seen by all.
@@ -59,8 +61,10 @@ class HYDROFACTS_API Units : public CAtmPressure {
     int SetUserUnit(HF_UNIT_TYPES type, int id);
 
     /// Whether pressures in user units are absolute (true, as in a new object) or gauge.
+    /// @{
     void SetAbsolute(bool absolute);
     bool GetAbsolute() const;
+    /// @}
 
     /// Reads the atmospheric pressure from an ini file of the host; if that fails it stays.
     void InitAtmosphere(char* file);

@@ -1,6 +1,9 @@
 #ifndef HYDROFACTS_VALVE_CVALVETABLE_H
 #define HYDROFACTS_VALVE_CVALVETABLE_H
 
+/// @file
+/// A table of fittings and valves, and its records.
+
 #include <cstdint>
 
 #include "hydrofacts/units/UnitTypes.h"
@@ -20,21 +23,24 @@ extern HYDROFACTS_API const char* const device_type_names[5];
 ///   to it, ascending by limit; the last limit is 9999.0.
 class HYDROFACTS_API CValveType {
   public:
+    /// A device without a name, a formula or numbers.
     CValveType();
 
     /// Copies the device with numbers of its own. The copy stands in no list; a device that is
     /// assigned to keeps its place in its own.
+    /// @{
     CValveType(const CValveType& other);
     CValveType& operator=(const CValveType& other);
+    /// @}
     ~CValveType();
 
     CValveType* next;          ///< the next device of the type, null behind the last one
     std::int16_t device_type;  ///< index into device_type_names
     std::int16_t formula;      ///< how the resistance is worked out
     std::int16_t image;        ///< number of the symbol, from 1; 0: none given
-    char name[32];
-    std::int16_t data_count;  ///< how many numbers `data` has
-    double* data;             ///< owned if `data_count` is not 0
+    char name[32];             ///< cut to 31 characters
+    std::int16_t data_count;   ///< how many numbers `data` has
+    double* data;              ///< owned if `data_count` is not 0
 };
 
 /// The devices of one valve table file, in a list for each device type.
@@ -51,9 +57,14 @@ class HYDROFACTS_API CValveType {
 /// loads.
 class HYDROFACTS_API CValveTable {
   public:
+    /// No table is loaded.
     CValveTable();
+
+    /// Copies all records.
+    /// @{
     CValveTable(const CValveTable& other);
     CValveTable& operator=(const CValveTable& other);
+    /// @}
     ~CValveTable();
 
     /// Reads the table of that name in a directory; what was loaded before is gone in any case.
@@ -107,8 +118,8 @@ class HYDROFACTS_API CValveTable {
     /// The index of a device type, compared with case; -1 if there is none of that name.
     static int DeviceTypeIdx(const char* name);
 
-    char path[261];
-    CValveType* lists[5];  // by device type, owned
+    char path[261];        ///< of the table file
+    CValveType* lists[5];  ///< by device type, in the order of the file, owned
 
   private:
     struct Reading;
