@@ -1,11 +1,15 @@
 // Runs the benchmarks and prints the ratios of pairs: processor time, each side's fastest
-// repetition of this run.
+// repetition of this run. `--times FILE`, as the first argument, also writes every benchmark's
+// fastest time: its name, a tab, nanoseconds.
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
 #include <map>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -31,8 +35,11 @@ class FastestTimes : public benchmark::ConsoleReporter {
         for (const Run& run : runs) {
             if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
             const double time = run.cpu_accumulated_time / static_cast<double>(run.iterations);
-            const auto [place, added] = times_.emplace(run.run_name.function_name, time);
-            if (!added) place->second = std::min(place->second, time);
+            // A benchmark of several sizes has the size in its full name only.
+            for (const std::string& name : {run.run_name.function_name, run.run_name.str()}) {
+                const auto [place, added] = times_.emplace(name, time);
+                if (!added) place->second = std::min(place->second, time);
+            }
         }
     }
 
@@ -47,6 +54,12 @@ class FastestTimes : public benchmark::ConsoleReporter {
         }
     }
 
+    void WriteTimes(const char* path) const {
+        constexpr double kNanoseconds = 1e9;
+        std::ofstream file(path);
+        for (const auto& [name, time] : times_) file << name << '\t' << time * kNanoseconds << '\n';
+    }
+
   private:
     std::map<std::string, double> times_;
 };
@@ -58,10 +71,18 @@ bench::Ratio::Ratio(std::string measured, std::string plain, double limit) {
 }
 
 int main(int argc, char** argv) {
+    const char* times = nullptr;
+    if (argc > 2 && std::string_view(argv[1]) == "--times") {
+        times = argv[2];
+        argv[2] = argv[0];
+        argv += 2;
+        argc -= 2;
+    }
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     FastestTimes reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     reporter.PrintRatios();
+    if (times != nullptr) reporter.WriteTimes(times);
     return 0;
 }
