@@ -43,13 +43,17 @@ endforeach()
 foreach(header IN LISTS public_headers)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${header})
     cmake_path(GET header PARENT_PATH folder)
-    install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+    install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder}
+            COMPONENT Development)
 endforeach()
+# For scripts/docs.
+list(JOIN public_headers "\n" header_lines)
+file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/public_headers.txt CONTENT "${header_lines}\n")
 
 install(TARGETS hydrofacts EXPORT HydrofactsTargets
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} NAMELINK_COMPONENT Development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
 
 if(TARGET win32_qt)
     install(FILES ${PROJECT_SOURCE_DIR}/${qt_header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/win32/qt
@@ -64,7 +68,8 @@ if(TARGET win32_qt)
 endif()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Hydrofacts)
-install(EXPORT HydrofactsTargets NAMESPACE Hydrofacts:: DESTINATION ${package_dir})
+install(EXPORT HydrofactsTargets NAMESPACE Hydrofacts:: DESTINATION ${package_dir}
+        COMPONENT Development)
 configure_package_config_file(cmake/HydrofactsConfig.cmake.in
     ${PROJECT_BINARY_DIR}/HydrofactsConfig.cmake
     INSTALL_DESTINATION ${package_dir}
@@ -75,11 +80,12 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/HydrofactsConfigVersion.c
 install(FILES
     ${PROJECT_BINARY_DIR}/HydrofactsConfig.cmake
     ${PROJECT_BINARY_DIR}/HydrofactsConfigVersion.cmake
-    DESTINATION ${package_dir})
+    DESTINATION ${package_dir}
+    COMPONENT Development)
 
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
            BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgconfig_dir}
            OUTPUT_VARIABLE prefix_from_pkgconfig)
 configure_file(cmake/hydrofacts.pc.in ${PROJECT_BINARY_DIR}/hydrofacts.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/hydrofacts.pc DESTINATION ${pkgconfig_dir})
+install(FILES ${PROJECT_BINARY_DIR}/hydrofacts.pc DESTINATION ${pkgconfig_dir} COMPONENT Development)

@@ -1,0 +1,67 @@
+# Packages, made by `cpack --config BUILD/CPackConfig.cmake`: for Debian the library with its tables and
+# the command, what one builds against it with, and, where Qt was there, the view on Qt and the demo; for
+# Windows one zip of everything. Configure with -DCMAKE_INSTALL_PREFIX=/usr for Debian's own library folder.
+install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
+        FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.PTBL")
+
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_PACKAGE_NAME hydrofacts)
+set(CPACK_PACKAGE_VENDOR "the Hydrofacts maintainers")
+set(CPACK_PACKAGE_CONTACT "Hydrofacts maintainers <maintainers@hydrofacts.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "fluid properties, pipe and fitting data, unit conversion")
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
+set(CPACK_STRIP_FILES ON)
+
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_PACKAGE_FILE_NAME hydrofacts-${PROJECT_VERSION}-win64)
+    include(CPack)
+    return()
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
+# What a program needs of other packages is read from the program. What is linked with this library
+# needs this version of it: the package carries one interface only, so another version may have another.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY "=")
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME hydrofacts)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS gnuplot-nox)
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
+    "Engineering data for programs that model fluid systems in pipes: properties of
+fluids from fitted formulas and cubic equations of state, sizes of pipes,
+resistances of fittings and valves, conversion of units. This package has the
+shared library, its tables and the hydrofacts command.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME hydrofacts-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS libboost-dev)
+set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS Runtime)
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
+    "Headers, CMake package and pkg-config file, to build programs with the library
+of the package hydrofacts.")
+
+set(CPACK_DEBIAN_QT_PACKAGE_NAME hydrofacts-qt)
+set(CPACK_DEBIAN_QT_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_QT_PACKAGE_SUGGESTS "hydrofacts-dev, qt6-base-dev")
+set(CPACK_COMPONENT_QT_DEPENDS Runtime)
+set(CPACK_COMPONENT_QT_DESCRIPTION
+    "Shows the dialogs of programs that use hydrofacts with Qt 6, and has what such
+programs are built with.")
+
+set(CPACK_DEBIAN_DEMO_PACKAGE_NAME hydrofacts-demo)
+set(CPACK_DEBIAN_DEMO_PACKAGE_SECTION science)
+set(CPACK_COMPONENT_DEMO_DEPENDS Runtime Qt)
+set(CPACK_COMPONENT_DEMO_DESCRIPTION
+    "The dialogs of hydrofacts in a window, to choose a fluid, a pipe or a valve.")
+include(CPack)
