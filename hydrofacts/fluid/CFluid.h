@@ -293,12 +293,14 @@ class HYDROFACTS_API CFluid {
     std::int32_t m_savedEqnState;  ///< the equation that SetIdealGas(true) put aside
 
   private:
+    /// @cond
     /// A set point and the critical temperature in the units of the formulas.
     struct BasePoint {
         double tK;
         double pKPa;
         double tcK;
     };
+    /// @endcond
 
     HYDROFACTS_HIDDEN void ReleaseUnits();
     HYDROFACTS_HIDDEN BasePoint ToBase(double temperature, double pressure) const;

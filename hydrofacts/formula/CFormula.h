@@ -24,22 +24,37 @@ enum FORMULASLOT : int {
 /// and its five coefficients. `CFluid` holds seven. Temperatures are in kelvin, pressures in kPa
 /// absolute, molar masses in kg/kmol; the gas constant is 8.3144 kJ/(kmol K).
 ///
-/// Forms by slot and type, T the temperature, c0 to c4 the coefficients:
-///   POLY = c0 + c1 T + c2 T² + c3 T³ + c4 T⁴
-///   EXPO = exp(c0 + c1 / T + c2 ln T + c3 T^c4)
-///   Slots 0, 1: saturation pressure, kPa. 1: POLY. 2: EXPO / 1000. 3: 0.1333 × 10^x with
-///     x = c0 + c1 / T + c2 log10 T + (c3 / 1000) T + (c4 / 1000000) T² (0.1333 kPa is 1 mm Hg).
-///   Slot 2: liquid density, kg/m³. 1: POLY. 2: M c0 / c1^(1 + (1 − T / c2)^c3) (Rackett form,
-///   molar).
-///     3: 1000 c0 c1^(−(1 − T / Tc)^(2/7)).
-///   Slot 3: liquid viscosity, cP. 1: POLY. 2: 1000 EXPO. 3: 10^y with
-///     y = c0 + c1 / T + (c2 / 100) T + (c3 / 1000000) T².
-///   Slot 4: vapor density, kg/m³: p M / (Z R T), Z after the equation of state that the type
-///   names. Slot 5: vapor viscosity, cP. 1: POLY. 2: 1000 c0 T^c1 / (1 + c2 / T + c3 / T²).
-///     3: (c0 + (c1 / 100) T + (c2 / 1000000) T²) / 10000.
-///   Slot 6: ratio of specific heats, Cp / (Cp − R) with Cp in J/(mol K). 1: POLY.
-///     2: (c0 + c1 (u / sinh u)² + c3 (v / cosh v)²) / 1000 with u = c2 / T, v = c4 / T.
-///     3: 4.1868 (c0 + (c1 / 1000) T + (c2 / 1000000) T² + (c3 / 1000000000) T³).
+/// Forms by slot and type, T the temperature, c0 to c4 the coefficients. Two of them return:
+/// - POLY is c0 + c1 T + c2 T² + c3 T³ + c4 T⁴
+/// - EXPO is exp(c0 + c1 / T + c2 ln T + c3 T^c4)
+///
+/// Slots 0 and 1, saturation pressure, kPa:
+/// - 1: POLY
+/// - 2: EXPO / 1000
+/// - 3: 0.1333 × 10^x with x = c0 + c1 / T + c2 log10 T + (c3 / 1000) T + (c4 / 1000000) T²
+///   (0.1333 kPa is 1 mm Hg)
+///
+/// Slot 2, liquid density, kg/m³:
+/// - 1: POLY
+/// - 2: M c0 / c1^(1 + (1 − T / c2)^c3), the molar Rackett form
+/// - 3: 1000 c0 c1^(−(1 − T / Tc)^(2/7))
+///
+/// Slot 3, liquid viscosity, cP:
+/// - 1: POLY
+/// - 2: 1000 EXPO
+/// - 3: 10^y with y = c0 + c1 / T + (c2 / 100) T + (c3 / 1000000) T²
+///
+/// Slot 4, vapor density, kg/m³: p M / (Z R T), Z after the equation of state that the type names.
+///
+/// Slot 5, vapor viscosity, cP:
+/// - 1: POLY
+/// - 2: 1000 c0 T^c1 / (1 + c2 / T + c3 / T²)
+/// - 3: (c0 + (c1 / 100) T + (c2 / 1000000) T²) / 10000
+///
+/// Slot 6, ratio of specific heats: Cp / (Cp − R) with Cp in J/(mol K):
+/// - 1: POLY
+/// - 2: (c0 + c1 (u / sinh u)² + c3 (v / cosh v)²) / 1000 with u = c2 / T, v = c4 / T
+/// - 3: 4.1868 (c0 + (c1 / 1000) T + (c2 / 1000000) T² + (c3 / 1000000000) T³)
 class HYDROFACTS_API CFormula {
   public:
     /// Slot 0, empty.
