@@ -213,6 +213,22 @@ BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL) {
     return TRUE;
 }
 
+BOOL ScreenToClient(HWND window, POINT* place) {
+    const auto found = Find(window);
+    if (!found) return FALSE;
+    const POINT origin = Origin(*found);
+    *place = {place->x - origin.x, place->y - origin.y};
+    return TRUE;
+}
+
+BOOL ClientToScreen(HWND window, POINT* place) {
+    const auto found = Find(window);
+    if (!found) return FALSE;
+    const POINT origin = Origin(*found);
+    *place = {place->x + origin.x, place->y + origin.y};
+    return TRUE;
+}
+
 BOOL InvalidateRect(HWND window, const RECT*, BOOL) {
     if (!Find(window)) return FALSE;
     ToView(window);

@@ -161,6 +161,11 @@ HYDROFACTS_API BOOL GetClientRect(HWND window, LPRECT place);
 /// Gives a window its place and size; FALSE if there is no such window. `repaint` doesn't matter.
 /// A top-level window with WS_THICKFRAME keeps to the sizes that it gives in WM_GETMINMAXINFO.
 HYDROFACTS_API BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
+/// A place on the screen as seen from a window's client area, and back.
+/// @{
+HYDROFACTS_API BOOL ScreenToClient(HWND window, POINT* place);
+HYDROFACTS_API BOOL ClientToScreen(HWND window, POINT* place);
+/// @}
 /// Has the view draw a window anew; the rectangle doesn't matter, it is drawn whole.
 HYDROFACTS_API BOOL InvalidateRect(HWND window, const RECT* place, BOOL erase);
 

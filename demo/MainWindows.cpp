@@ -1,0 +1,28 @@
+// The program on Windows.
+
+#include "demo/MainDialog.h"
+#include "demo/PlotGdi.h"
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+    InitCommonControls();
+    demo::Site site;
+    char tables[MAX_PATH] = "";
+    GetDirectory(DIR_TABLES, tables, sizeof tables);
+    site.tables = tables;
+    site.drawPlot = [](UINT message, WPARAM, LPARAM lParam, const demo::PropertyCurve& curve) {
+        if (message != WM_DRAWITEM) return false;
+        demo::DrawPlot(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam), curve);
+        return true;
+    };
+    demo::MainDialog dialog(site);
+    if (!dialog.Create()) return 1;
+    ShowWindow(dialog.Handle(), SW_SHOW);
+
+    MSG message{};
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+        if (IsDialogMessageA(dialog.Handle(), &message) != FALSE) continue;
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
