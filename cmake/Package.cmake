@@ -1,9 +1,10 @@
 # Packages, made by `cpack --config BUILD/CPackConfig.cmake`: for Debian the library with its tables and
 # the command, what one builds against it with, and, where Qt was there, the view on Qt and the demo; for
 # Windows one zip of everything. Configure with -DCMAKE_INSTALL_PREFIX=/usr for Debian's own library folder.
-install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
-        FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.PTBL")
+set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/hydrofacts)
+install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${doc_dir})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${doc_dir}
+        FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.?TBL" PATTERN "*.DAT")
 
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_PACKAGE_NAME hydrofacts)
