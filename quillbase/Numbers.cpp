@@ -59,13 +59,20 @@ double BeyondDouble(const char* body, const Notation& notation) {
     return order > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
+// The end of what belongs to a number. libstdc++ 12 reads "0x1p+-2" as a quarter; "p" without a
+// number behind it is no exponent.
+const char* EndOf(const char* body, bool hexadecimal) {
+    const char* end = body + std::strlen(body);
+    const char* exponent = hexadecimal ? std::strpbrk(body, "pP") : nullptr;
+    return exponent != nullptr && exponent[1] == '+' && exponent[2] == '-' ? exponent : end;
+}
+
 int StoreUnsigned(const char* body, const Notation& notation, double* value) {
     const bool hexadecimal = notation.format == std::chars_format::hex;
     if (*body == '-' || (hexadecimal && std::strspn(body, kHexadecimalStart) == 0)) {
         return kNoNumber;
     }
-    const char* end = body + std::strlen(body);
-    const auto result = std::from_chars(body, end, *value, notation.format);
+    const auto result = std::from_chars(body, EndOf(body, hexadecimal), *value, notation.format);
     if (result.ec == std::errc::invalid_argument) return kNoNumber;
     if (result.ec == std::errc::result_out_of_range) *value = BeyondDouble(body, notation);
     return 1;

@@ -39,6 +39,8 @@ TEST(Numbers, RealsReadAsTheFormatLgReadsThem) {
         {"1E+3", 1, 1000.0},
         {"0x1.8p1", 1, 3.0},
         {"-0XFF", 1, -255.0},
+        {"0x1p+-20", 1, 1.0},
+        {"0x1p-20", 1, 0x1p-20},
         {"inf", 1, kInfinity},
         {"-Infinity", 1, -kInfinity},
         {"1e400", 1, kInfinity},
