@@ -70,10 +70,10 @@ class HYDROFACTS_API DialogBuilder {
 
   private:
     void Word(unsigned value) { words_.push_back(static_cast<WORD>(value)); }
-    void Dword(DWORD value);
-    void Place(DialogPlace place);
-    void Text(std::string_view text);
-    void AlignToDword();
+    HYDROFACTS_HIDDEN void Dword(DWORD value);
+    HYDROFACTS_HIDDEN void Place(DialogPlace place);
+    HYDROFACTS_HIDDEN void Text(std::string_view text);
+    HYDROFACTS_HIDDEN void AlignToDword();
 
     std::vector<WORD> words_;
 };

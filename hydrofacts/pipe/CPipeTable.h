@@ -144,9 +144,10 @@ class HYDROFACTS_API CPipeTable {
     t_pipe_size* pipe_list;  ///< the sizes in the order of the file, owned
 
   private:
-    HF_LENGTH_UNITS LengthUnit() const;
-    bool ReadMaterialRecord();
-    bool ReadSizes(TextFile& file, std::string_view row, const hydrofacts::SizeCombo& combo);
+    HYDROFACTS_HIDDEN HF_LENGTH_UNITS LengthUnit() const;
+    HYDROFACTS_HIDDEN bool ReadMaterialRecord();
+    HYDROFACTS_HIDDEN bool ReadSizes(TextFile& file, std::string_view row,
+                                     const hydrofacts::SizeCombo& combo);
 };
 
 #endif

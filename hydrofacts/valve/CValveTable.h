@@ -124,8 +124,8 @@ class HYDROFACTS_API CValveTable {
   private:
     struct Reading;
 
-    CValveType* ListOf(int deviceType) const;
-    void AddFixedRecords();
+    HYDROFACTS_HIDDEN CValveType* ListOf(int deviceType) const;
+    HYDROFACTS_HIDDEN void AddFixedRecords();
 };
 
 #endif
