@@ -1,10 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 
 #include "tests/qt/ShownDialog.h"
@@ -160,6 +163,37 @@ TEST_F(EditView, CopiesCutsAndPastes) {
         EXPECT_EQ(Text(id), before) << id;
         EXPECT_EQ(clipboard.text(), QStringLiteral("1.5")) << id;
     }
+}
+
+TEST_F(EditView, HasAMenu) {
+    SetText(kTemperature, "12");
+    SetText(kReadOnly, "34");
+    const auto choose = [&](int id, const char* text) {
+        const QPoint at(3, 3);
+        QContextMenuEvent open(QContextMenuEvent::Mouse, at, Line(id).mapToGlobal(at));
+        QApplication::sendEvent(&Line(id), &open);
+        dialog_.Settle();
+        auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+        if (menu == nullptr) return false;
+        for (QAction* action : menu->actions()) {
+            if (action->text() == QLatin1String(text) && action->isEnabled()) action->trigger();
+        }
+        menu->close();
+        dialog_.Settle();
+        return true;
+    };
+    ASSERT_TRUE(choose(kReadOnly, "Select All"));
+    EXPECT_EQ(GetFocus(), dialog_.Item(kReadOnly));
+    EXPECT_EQ(Line(kReadOnly).selectedText(), QStringLiteral("34"));
+    ASSERT_TRUE(choose(kReadOnly, "&Copy"));
+    ASSERT_TRUE(choose(kReadOnly, "Cu&t"));
+    EXPECT_EQ(Text(kReadOnly), "34");
+    ASSERT_TRUE(choose(kTemperature, "&Paste"));
+    EXPECT_EQ(Text(kTemperature), "3412");
+    EnableWindow(dialog_.Item(kTemperature), FALSE);
+    dialog_.Settle();
+    EXPECT_FALSE(choose(kTemperature, "&Paste"));
+    EXPECT_EQ(Text(kTemperature), "3412");
 }
 
 TEST_F(EditView, MovesByWords) {

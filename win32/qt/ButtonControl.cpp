@@ -122,7 +122,7 @@ class GroupBox : public Control {
     GroupBox(Screen& screen, HWND window, QWidget* parent)
         : Control(screen, window), widget_(std::make_unique<QGroupBox>(parent)) {
         Watch(*widget_);
-        widget_->lower();
+        PutBehindControls(parent);
     }
 
     QWidget& Widget() const override { return *widget_; }
@@ -136,6 +136,19 @@ class GroupBox : public Control {
     bool Mouse(QObject&, const QMouseEvent&) override { return true; }
 
   private:
+    // The first that isn't a group box stays in front of it, and so do all others; a box within a
+    // box is made after that.
+    void PutBehindControls(const QWidget* parent) {
+        if (parent == nullptr) return;
+        for (QObject* child : parent->children()) {
+            auto* sibling = qobject_cast<QWidget*>(child);
+            if (sibling == nullptr || sibling->isWindow()) continue;
+            if (qobject_cast<QGroupBox*>(sibling) != nullptr) continue;
+            widget_->stackUnder(sibling);
+            return;
+        }
+    }
+
     std::unique_ptr<QGroupBox> widget_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
@@ -73,7 +74,6 @@ Combo::Combo(Screen& screen, HWND window, QWidget* parent)
         widget_->setEditable(true);
         widget_->setCompleter(nullptr);
         line_.emplace(screen, info_.hwndItem, *widget_->lineEdit());
-        widget_->lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
         Watch(*widget_->lineEdit());
     }
     rows_.emplace(info_.hwndList, List());
@@ -187,6 +187,10 @@ bool Combo::Mouse(QObject& watched, const QMouseEvent& event) {
 bool Combo::Other(QObject& watched, QEvent& event) {
     if (&watched == widget_.get() && event.type() == QEvent::Wheel) {
         event.ignore();
+        return true;
+    }
+    if (line_ && event.type() == QEvent::ContextMenu) {
+        line_->OpenMenu(static_cast<QContextMenuEvent&>(event).globalPos());
         return true;
     }
     // Qt has taken the list away: the user has clicked elsewhere.

@@ -116,6 +116,7 @@ bool Control::eventFilter(QObject* watched, QEvent* event) {
             return true;
         case QEvent::KeyPress: {
             const Key key = KeyOf(static_cast<QKeyEvent&>(*event));
+            if (key.code == Qt::Key_Menu) return false;  // opens the menu of an edit
             screen_.AddKey(key);
             return true;
         }

@@ -79,6 +79,9 @@ class TopDialog : public Page {
 void TopDialog::Show() {
     const QString title = ToUnicode(TextOf(Window()));
     if (Widget().windowTitle() != title) Widget().setWindowTitle(title);
+    // The dialog may have refused the size that the user gave it.
+    const QRect place = PlaceOf(Window());
+    if (Widget().size() != place.size()) Place(place);
 }
 
 void TopDialog::LimitSize() {

@@ -1,5 +1,6 @@
 // Edits of one line; those of several lines stand in TextEdit.cpp.
 
+#include <QContextMenuEvent>
 #include <QLineEdit>
 
 #include "win32/qt/Control.h"
@@ -21,7 +22,6 @@ class Edit : public Control {
                             (GetWindowLongPtrA(window, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) != 0;
         widget_->setFrame(border);
         widget_->setFocusPolicy(Qt::TabFocus);
-        widget_->setContextMenuPolicy(Qt::NoContextMenu);
         Watch(*widget_);
     }
 
@@ -40,6 +40,11 @@ class Edit : public Control {
   protected:
     void Show() override { line_.Show(); }
     bool Mouse(QObject&, const QMouseEvent& event) override { return line_.Mouse(event); }
+    bool Other(QObject&, QEvent& event) override {
+        if (event.type() != QEvent::ContextMenu) return false;
+        line_.OpenMenu(static_cast<QContextMenuEvent&>(event).globalPos());
+        return true;
+    }
 
   private:
     std::unique_ptr<QLineEdit> widget_;

@@ -82,7 +82,7 @@ bool TakeClipboardKey(HWND edit, const Key& key, std::string& pasted) {
 }
 
 LineEdit::LineEdit(Screen& screen, HWND edit, QLineEdit& widget)
-    : screen_(screen), edit_(edit), widget_(widget) {
+    : screen_(screen), edit_(edit), widget_(widget), menu_(screen, edit) {
     widget_.setDragEnabled(false);
     widget_.setAcceptDrops(false);
     // These come only of the user's mouse: nothing else moves the caret of the widget unblocked.

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "win32/Win32.h"
+#include "win32/qt/EditMenu.h"
 #include "win32/qt/Keys.h"
 
 class QLineEdit;
@@ -43,6 +44,7 @@ class LineEdit : public QObject {
     bool TakeKey(const Key& key);
     /// Puts the caret where the mouse says; true if the widget is not to see the event.
     bool Mouse(const QMouseEvent& event);
+    void OpenMenu(QPoint at) { menu_.Open(at, pasted_); }
 
   private:
     void ShowStyle();
@@ -57,6 +59,7 @@ class LineEdit : public QObject {
     QLineEdit& widget_;
     Selection shown_;
     std::string pasted_;
+    EditMenu menu_;
 };
 
 }  // namespace win32::qt

@@ -162,10 +162,10 @@ bool Screen::HasMessage() const {
 
 // A dialog comes after its controls: it is seen when all of it is ready.
 void Screen::RefreshAll() {
-    while (!changed_.empty()) {
-        std::ranges::sort(changed_, std::less<>());
-        const HWND window = changed_.back();
-        changed_.pop_back();
+    // What changes meanwhile has its turn after this one.
+    std::vector<HWND> changed = std::exchange(changed_, {});
+    std::ranges::sort(changed, std::greater<>());
+    for (const HWND window : changed) {
         const auto found = controls_.find(window);
         if (found == controls_.end()) continue;
         found->second->marked = false;

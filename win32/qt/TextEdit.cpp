@@ -1,6 +1,7 @@
 // Edits of several lines.
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -8,6 +9,7 @@
 #include <algorithm>
 
 #include "win32/qt/Control.h"
+#include "win32/qt/EditMenu.h"
 #include "win32/qt/LineEdit.h"
 #include "win32/qt/Reading.h"
 #include "win32/qt/Screen.h"
@@ -26,6 +28,11 @@ class TextEdit : public Control {
   protected:
     void Show() override;
     bool Mouse(QObject& watched, const QMouseEvent& event) override;
+    bool Other(QObject&, QEvent& event) override {
+        if (event.type() != QEvent::ContextMenu) return false;
+        menu_.Open(static_cast<QContextMenuEvent&>(event).globalPos(), pasted_);
+        return true;
+    }
 
   private:
     // A line ends with two characters in the edit, with one in the widget.
@@ -40,13 +47,15 @@ class TextEdit : public Control {
     std::unique_ptr<QPlainTextEdit> widget_;
     std::string text_;
     std::string pasted_;
+    EditMenu menu_;
     int anchor_ = 0;  // of the widget's selection, while the mouse is held
 };
 
 TextEdit::TextEdit(Screen& screen, HWND window, QWidget* parent)
-    : Control(screen, window), widget_(std::make_unique<QPlainTextEdit>(parent)) {
+    : Control(screen, window),
+      widget_(std::make_unique<QPlainTextEdit>(parent)),
+      menu_(screen, window) {
     widget_->setFocusPolicy(Qt::TabFocus);
-    widget_->setContextMenuPolicy(Qt::NoContextMenu);
     widget_->setAcceptDrops(false);
     widget_->setUndoRedoEnabled(false);
     const bool wraps = !Has(window, ES_AUTOHSCROLL);

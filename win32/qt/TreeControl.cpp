@@ -52,6 +52,7 @@ Tree::Tree(Screen& screen, HWND window, QWidget* parent)
     widget_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     widget_->setSelectionMode(QAbstractItemView::SingleSelection);
     widget_->setExpandsOnDoubleClick(false);
+    widget_->setRootIsDecorated(Has(window, TVS_HASBUTTONS | TVS_LINESATROOT));
     // A long text can be read by scrolling, not by guessing.
     widget_->header()->setStretchLastSection(false);
     widget_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
