@@ -34,16 +34,19 @@ bool NumberOf(HWND dialog, int control, double& value) {
     return read.ec == std::errc() && std::isfinite(value);
 }
 
-std::string NumberText(double value) {
+double Rounded(double value) {
+    const std::string text = NumberText(value, '.');
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+std::string NumberText(double value, char decimalSign) {
     if (!std::isfinite(value)) return {};
     char text[32];
     const auto end =
         std::to_chars(text, text + sizeof text, value, std::chars_format::general, kDigits);
+    std::replace(text, end.ptr, '.', decimalSign);
     return {text, end.ptr};
-}
-
-void SetNumber(HWND dialog, int control, double value) {
-    SetText(dialog, control, NumberText(value));
 }
 
 void Enable(HWND dialog, int first, int last, bool enable) {

@@ -17,9 +17,10 @@ void SetText(HWND dialog, int control, const std::string& text);
 
 /// The number in a control, with a comma or a point; false if it holds none.
 bool NumberOf(HWND dialog, int control, double& value);
-/// Six digits; not-a-number empties the control.
-void SetNumber(HWND dialog, int control, double value);
-std::string NumberText(double value);
+/// Six digits, with the decimal sign; empty for not-a-number.
+std::string NumberText(double value, char decimalSign);
+/// The number that NumberText shows.
+double Rounded(double value);
 
 void Enable(HWND dialog, int first, int last, bool enable);
 

@@ -1,6 +1,6 @@
 #include "demo/FluidPage.h"
 
-#include <limits>
+#include <iterator>
 
 #include "demo/FluidForm.h"
 
@@ -107,12 +107,8 @@ void FluidPage::Relabel() {
     Hydrofacts_GetMessage(kInstalledTables, caption, sizeof caption);
     Put(kCaption, caption);
     FillPlots();
-    ShowFluidUnits(dialog_, site_.units);
-    // What is wrong with a set point is said anew.
-    if (IsPicked() && fluid_.GetFluidState() == FLUID_NONE) {
-        fluid_.DlgCommand(kTemperature, EN_KILLFOCUS);
-    }
-    Update();
+    // Numbers have the decimal sign of the language, and what is wrong is said anew.
+    UnitsChanged(site_.units);
 }
 
 bool FluidPage::IsPicked() const {
@@ -161,6 +157,7 @@ void FluidPage::EnableTyping() {
 void FluidPage::Update() {
     EnableTyping();
     const int row = PickedRow(dialog_, kPlotProperty);
+    curve_.SetDecimalSign(DecimalSign(site_.language));
     const bool drawn = IsPicked() && fluid_.GetFluidState() != FLUID_NONE && row >= 0;
     if (drawn) {
         curve_.Set(fluid_, site_.units, static_cast<Property>(row),
@@ -189,39 +186,39 @@ void FluidPage::SetConditions(double temperature, double pressure) {
 }
 
 void FluidPage::UnitsChanged(const Units& before) {
-    const double temperature = ConvertTemperature(before, site_.units, fluid_.GetTemperature());
-    const double pressure = ConvertPressure(before, site_.units, fluid_.GetPressure());
-    const bool typed =
+    const bool conditions =
         !TextOf(dialog_, kTemperature).empty() && !TextOf(dialog_, kPressure).empty();
-    if (IsPicked() && typed) {
-        const std::string name = fluid_.GetFluidName();
-        fluid_.SetDlgFluid(name.c_str(), temperature, pressure);
-    } else if (!IsPicked() && typed) {
-        ConvertOwn(before, temperature, pressure);
+    if (IsPicked() && conditions) {
+        ConvertListed(before);
+    } else {
+        ConvertTyped(before);
     }
     ShowFluidUnits(dialog_, site_.units);
     Update();
 }
 
+// The note of a table stays as long as there is nothing else to be said.
+void FluidPage::ConvertListed(const Units& before) {
+    const bool hadState = fluid_.GetFluidState() != FLUID_NONE;
+    const std::string note = TextOf(dialog_, kFluidNote);
+    const std::string name = fluid_.GetFluidName();
+    const double temperature = ConvertTemperature(before, site_.units, fluid_.GetTemperature());
+    const double pressure = ConvertPressure(before, site_.units, fluid_.GetPressure());
+    fluid_.SetDlgFluid(name.c_str(), Rounded(temperature), Rounded(pressure));
+    if (hadState && fluid_.GetFluidState() != FLUID_NONE) Put(kFluidNote, note);
+}
+
 // The figures as they stand in the controls, so that none is lost which has not been taken over.
-void FluidPage::ConvertOwn(const Units& before, double temperature, double pressure) {
+void FluidPage::ConvertTyped(const Units& before) {
     const Units& now = site_.units;
     const auto convert = [&](HF_UNIT_TYPES type, int control) {
         return now.Convert(type, Figure(dialog_, control), before.GetUserUnit(type), nullptr);
     };
-    double typedTemperature = 0.0;
-    double typedPressure = 0.0;
-    if (NumberOf(dialog_, kTemperature, typedTemperature)) {
-        temperature = ConvertTemperature(before, now, typedTemperature);
-    }
-    if (NumberOf(dialog_, kPressure, typedPressure)) {
-        pressure = ConvertPressure(before, now, typedPressure);
-    }
     const struct {
         int control;
         double value;
-    } shown[] = {{kTemperature, temperature},
-                 {kPressure, pressure},
+    } shown[] = {{kTemperature, ConvertTemperature(before, now, Figure(dialog_, kTemperature))},
+                 {kPressure, ConvertPressure(before, now, Figure(dialog_, kPressure))},
                  {kDensity, convert(HF_DENSITY, kDensity)},
                  {kVaporPressure, convert(HF_PRESSURE, kVaporPressure)},
                  {kCriticalPressure, convert(HF_PRESSURE, kCriticalPressure)},
@@ -235,8 +232,7 @@ void FluidPage::ConvertOwn(const Units& before, double temperature, double press
         empty[i] = TextOf(dialog_, shown[i].control).empty();
     }
     for (std::size_t i = 0; i < std::size(shown); ++i) {
-        constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
-        SetNumber(dialog_, shown[i].control, empty[i] ? kNothing : shown[i].value);
+        Put(shown[i].control, empty[i] ? std::string() : Number(shown[i].value));
     }
     const FLUIDSTATE state = fluid_.GetFluidState();
     const bool taken = state == FLUID_USER_LIQUID || state == FLUID_USER_VAPOR;
@@ -252,9 +248,9 @@ std::string FluidPage::Summary() const {
     std::erase(phase, '&');
     const Units& units = site_.units;
     return std::string(fluid_.GetFluidName()) + ", " + phase + ", " +
-           NumberText(fluid_.GetTemperature()) + ' ' + units.GetString(HF_TEMPERATURE) + ", " +
-           NumberText(fluid_.GetPressure()) + ' ' + units.GetString(HF_PRESSURE) + ", " +
-           NumberText(fluid_.GetUDensity()) + ' ' + units.GetString(HF_DENSITY);
+           Number(fluid_.GetTemperature()) + ' ' + units.GetString(HF_TEMPERATURE) + ", " +
+           Number(fluid_.GetPressure()) + ' ' + units.GetString(HF_PRESSURE) + ", " +
+           Number(fluid_.GetUDensity()) + ' ' + units.GetString(HF_DENSITY);
 }
 
 }  // namespace demo

@@ -36,7 +36,8 @@ class FluidPage : public Page {
     void TakeOver();
     void FillPlots();
     void ShowUnits();
-    void ConvertOwn(const Units& before, double temperature, double pressure);
+    void ConvertListed(const Units& before);
+    void ConvertTyped(const Units& before);
 
     mutable CFluidDlg fluid_;
     PropertyCurve curve_;

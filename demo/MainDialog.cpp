@@ -168,7 +168,8 @@ void MainDialog::Relabel() {
 }
 
 void MainDialog::ShowAtmosphere() {
-    SetNumber(dialog_, kAtmosphere, site_.units.GetAtmosphere(HF_USER_UNIT, true));
+    SetText(dialog_, kAtmosphere,
+            NumberText(site_.units.GetAtmosphere(HF_USER_UNIT, true), DecimalSign(site_.language)));
     SetText(dialog_, kAtmosphereUnit, site_.units.GetString(HF_PRESSURE));
 }
 
@@ -235,7 +236,7 @@ void MainDialog::TakeAtmosphere() {
     const double present = site_.units.GetAtmosphere(HF_USER_UNIT, true);
     if (!NumberOf(dialog_, kAtmosphere, pressure) || !(pressure > 0.0)) {
         ShowAtmosphere();
-    } else if (NumberText(pressure) != NumberText(present)) {
+    } else if (Rounded(pressure) != Rounded(present)) {
         Units before;
         before = site_.units;
         site_.units.SetAtmosphere(pressure, HF_USER_UNIT);

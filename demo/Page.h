@@ -66,6 +66,9 @@ class Page {
     virtual bool Other(UINT, WPARAM, LPARAM) { return false; }
 
     std::string Say(Text text) const { return demo::Say(text, site_.language); }
+    std::string Number(double value) const {
+        return NumberText(value, DecimalSign(site_.language));
+    }
     void Put(int control, const std::string& text) const { SetText(dialog_, control, text); }
 
     Site& site_;

@@ -81,12 +81,17 @@ void PipePage::ShowUnits() {
 void PipePage::Relabel() {
     Page::Relabel();
     ShowUnits();
+    FillAnew();
 }
 
-// A schedule has the same rows in both systems.
 void PipePage::UnitsChanged(const Units& before) {
     ShowUnits();
-    if (before.bUS() == site_.units.bUS()) return;
+    if (before.bUS() != site_.units.bUS()) FillAnew();
+}
+
+// In the present system and with the decimal sign of the language. A schedule has the same rows in
+// both systems.
+void PipePage::FillAnew() {
     const std::string material = TextOf(dialog_, kMaterial);
     const std::string schedule = TextOf(dialog_, kSchedule);
     const int size = PickedRow(dialog_, kSizes);

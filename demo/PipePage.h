@@ -24,6 +24,7 @@ class PipePage : public Page {
 
   private:
     void ShowUnits();
+    void FillAnew();
 
     CPipeTableDlg pipe_;
 };

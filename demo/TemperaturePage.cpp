@@ -62,15 +62,15 @@ void TemperaturePage::Relabel() {
     constexpr unsigned kInstalledTables = 4;
     Hydrofacts_GetMessage(kInstalledTables, caption, sizeof caption);
     Put(kCaption, caption);
-    ShowFluidUnits(dialog_, site_.units);
-    if (fluid_.GetFluidState() == FLUID_NONE) Calculate();
+    // Numbers have the decimal sign of the language, and what is wrong is said anew.
+    UnitsChanged(site_.units);
 }
 
 void TemperaturePage::UnitsChanged(const Units& before) {
     ShowFluidUnits(dialog_, site_.units);
     double typed = 0.0;
     if (!NumberOf(dialog_, kTemperature, typed)) return;
-    SetNumber(dialog_, kTemperature, ConvertTemperature(before, site_.units, typed));
+    Put(kTemperature, Number(ConvertTemperature(before, site_.units, typed)));
     Calculate();
 }
 

@@ -122,6 +122,8 @@ unsigned long LanguageId(int language) { return At(language).id; }
 
 std::string LanguageName(int language) { return ToWindows1252(At(language).name); }
 
+char DecimalSign(int language) { return At(language).column == 0 ? '.' : ','; }
+
 std::string Say(Text text, int language) {
     const auto row = static_cast<std::size_t>(text);
     if (row >= std::size(kTexts)) return {};

@@ -73,6 +73,9 @@ inline constexpr int kLanguages = 5;
 unsigned long LanguageId(int language);
 std::string LanguageName(int language);
 
+/// A comma or a point, as the library shows numbers in that language.
+char DecimalSign(int language);
+
 /// A text in a language, Windows-1252.
 std::string Say(Text text, int language);
 

@@ -166,7 +166,7 @@ void ValvePage::ShowDevice() {
         constexpr int kShown = 12;
         method = std::to_string(device_->formula);
         for (int i = 0; i < device_->data_count && i < kShown; ++i) {
-            data += (i == 0 ? "" : "   ") + NumberText(device_->data[i]);
+            data += (i == 0 ? "" : "   ") + Number(device_->data[i]);
         }
         if (device_->data_count > kShown) data += "   ...";
     }
