@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QPolygonF>
 #include <QString>
+#include <cmath>
 
 #include "win32/CodePage.h"
 
@@ -15,6 +16,7 @@ constexpr QColor kCurveColor(0x19, 0x76, 0xd2);
 constexpr QColor kMarkColor(0xd3, 0x2f, 0x2f);
 constexpr double kCurveWidth = 2.0;
 constexpr double kMarkRadius = 4.0;
+constexpr int kFineness = 16;  // parts of a pixel that a picture is computed in, for smooth curves
 
 QString ToUnicode(const std::string& text) {
     QString unicode;
@@ -22,10 +24,22 @@ QString ToUnicode(const std::string& text) {
     return unicode;
 }
 
-// A line one pixel wide is sharp if it runs through the middle of the pixels.
-QPolygonF Polygon(const PlotLine& line) {
+double Pixels(LONG parts) { return static_cast<double>(parts) / kFineness; }
+
+QPointF Fine(const POINT& point) { return {Pixels(point.x), Pixels(point.y)}; }
+
+QPolygonF Curve(const PlotLine& line) {
     QPolygonF polygon;
-    for (const POINT& point : line.points) polygon << QPointF(point.x + 0.5, point.y + 0.5);
+    for (const POINT& point : line.points) polygon << Fine(point);
+    return polygon;
+}
+
+// A line one pixel wide is sharp if it runs through the middle of the pixels.
+QPolygonF Straight(const PlotLine& line) {
+    QPolygonF polygon;
+    for (const POINT& point : line.points) {
+        polygon << QPointF(std::floor(Pixels(point.x)) + 0.5, std::floor(Pixels(point.y)) + 0.5);
+    }
     return polygon;
 }
 
@@ -33,15 +47,16 @@ void DrawText(QPainter& painter, const PlotText& text) {
     const QString unicode = ToUnicode(text.text);
     const QFontMetrics metrics = painter.fontMetrics();
     const int width = metrics.horizontalAdvance(unicode);
-    const int x = text.align < 0 ? text.x : text.align > 0 ? text.x - width : text.x - width / 2;
-    painter.drawText(x, text.y + metrics.ascent(), unicode);
+    const int at = text.x / kFineness;
+    const int x = text.align < 0 ? at : text.align > 0 ? at - width : at - width / 2;
+    painter.drawText(x, text.y / kFineness + metrics.ascent(), unicode);
 }
 
 void Paint(QPainter& painter, QSize size, const PropertyCurve& curve) {
     const QFontMetrics metrics = painter.fontMetrics();
-    const PlotPicture picture =
-        curve.Draw({size.width(), size.height()}, metrics.height(),
-                   metrics.horizontalAdvance(QStringLiteral("0123456789")) / 10 + 1);
+    const int digitWidth = metrics.horizontalAdvance(QLatin1Char('0')) + 1;
+    const PlotPicture picture = curve.Draw({size.width() * kFineness, size.height() * kFineness},
+                                           metrics.height() * kFineness, digitWidth * kFineness);
     const QPalette palette = QApplication::palette();
     QColor gridColor = palette.color(QPalette::Text);
     gridColor.setAlpha(40);
@@ -49,18 +64,18 @@ void Paint(QPainter& painter, QSize size, const PropertyCurve& curve) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette.color(QPalette::Base));
-    painter.drawPolygon(Polygon(picture.frame));
+    painter.drawPolygon(Straight(picture.frame));
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(gridColor, 1.0));
-    for (const PlotLine& line : picture.grid) painter.drawPolyline(Polygon(line));
+    for (const PlotLine& line : picture.grid) painter.drawPolyline(Straight(line));
     painter.setPen(QPen(palette.color(QPalette::Mid), 1.0));
-    painter.drawPolyline(Polygon(picture.frame));
+    painter.drawPolyline(Straight(picture.frame));
     painter.setPen(QPen(kCurveColor, kCurveWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    for (const PlotLine& line : picture.curves) painter.drawPolyline(Polygon(line));
+    for (const PlotLine& line : picture.curves) painter.drawPolyline(Curve(line));
     painter.setPen(QPen(palette.color(QPalette::Base), 1.0));
     painter.setBrush(kMarkColor);
     for (const POINT& mark : picture.marks) {
-        painter.drawEllipse(QPointF(mark.x + 0.5, mark.y + 0.5), kMarkRadius, kMarkRadius);
+        painter.drawEllipse(Fine(mark), kMarkRadius, kMarkRadius);
     }
     painter.setPen(palette.color(QPalette::WindowText));
     for (const PlotText& text : picture.texts) DrawText(painter, text);

@@ -76,11 +76,15 @@ class PropertyCurve::Sampler : public CFluid {
     std::vector<Curve> Curves() {
         if (property_ == Property::VaporPressure) return SaturationCurves();
         const auto [lowest, highest] = Range();
-        return Sampled(lowest, highest, [this](double kelvin) { return ValueAt(kelvin); });
+        const FLUIDSTATE state = m_state;
+        return Sampled(lowest, highest, [this, state](double kelvin) {
+            const double value = ValueAt(kelvin);
+            return m_state == state ? value : 0.0;
+        });
     }
 
   private:
-    /// In kelvin; of both states.
+    /// In kelvin, of both states: neither is bound to have its own up to where it ends.
     std::pair<double, double> Range() {
         double lowest = std::numeric_limits<double>::infinity();
         double highest = 0.0;
@@ -112,23 +116,22 @@ class PropertyCurve::Sampler : public CFluid {
         return all;
     }
 
-    /// Where a value ends between two steps, or the state changes, the curve ends too: at the
-    /// place itself, found by bisection, not at the step.
+    /// Where the values end between two steps the curve ends too: at the place itself, found by
+    /// bisection, not at the step.
     template <typename Value>
     std::vector<Curve> Sampled(double lowest, double highest, Value value) {
         std::vector<Curve> curves;
         if (!(highest > lowest)) return curves;
         const auto sample = [&](double kelvin) {
-            m_state = FLUID_NONE;
             const double y = value(kelvin);
-            return Sample{kelvin, y, m_state, IsGood(y)};
+            return Sample{kelvin, y, IsGood(y)};
         };
         Sample before = sample(lowest);
         if (before.good) curves.push_back({At(before)});
         for (int i = 1; i <= kSteps; ++i) {
             const Sample here =
                 sample(i == kSteps ? highest : lowest + (highest - lowest) * i / kSteps);
-            if (!Continues(before, here)) {
+            if (before.good != here.good) {
                 if (before.good) curves.back().push_back(At(End(before, here, sample)));
                 if (here.good) curves.push_back({At(End(here, before, sample))});
             }
@@ -141,20 +144,15 @@ class PropertyCurve::Sampler : public CFluid {
     struct Sample {
         double kelvin;
         double value;
-        FLUIDSTATE state;
         bool good;
     };
-
-    static bool Continues(const Sample& a, const Sample& b) {
-        return a.good == b.good && (!a.good || a.state == b.state);
-    }
 
     /// The sample farthest from `from`, on the way to `to`, that a curve through `from` reaches.
     template <typename Take>
     static Sample End(Sample from, Sample to, const Take& sample) {
         for (int i = 0; i < kBisections; ++i) {
             const Sample middle = sample((from.kelvin + to.kelvin) / 2);
-            (Continues(from, middle) ? from : to) = middle;
+            (from.good == middle.good ? from : to) = middle;
         }
         return from;
     }
@@ -238,7 +236,7 @@ class PropertyCurve::Painting {
         FindLimits();
         const bool empty = lowest_.x >= highest_.x;
         if (!empty) {
-            const int rows = static_cast<int>(size_.cy) / std::max(3 * textHeight_, 1);
+            const int rows = 2 * static_cast<int>(size_.cy) / std::max(5 * textHeight_, 1);
             yTicks_ = MakeTicks(lowest_.y, highest_.y, rows);
             WidenToTicks();
         }
@@ -333,7 +331,7 @@ class PropertyCurve::Painting {
     void DrawColumns() {
         const LONG y = area_.bottom + charWidth_ / 2;
         const LONG unitBegins = size_.cx - WidthOf(curve_.temperatureUnit_) - charWidth_;
-        constexpr int kCharsApart = 9;
+        constexpr int kCharsApart = 7;
         const LONG width = area_.right - area_.left;
         const Ticks ticks = MakeTicks(
             lowest_.x, highest_.x, static_cast<int>(width) / std::max(kCharsApart * charWidth_, 1));

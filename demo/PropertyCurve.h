@@ -52,9 +52,11 @@ std::string TickText(double value, double step, char decimalSign);
 /// units, with a mark at the set point.
 class PropertyCurve {
   public:
-    /// Computes the curves of a table fluid over the temperatures of its table; a user-defined one
-    /// has nothing but the mark. `title` names the property, in Windows-1252. False if there is
-    /// nothing to be seen: the fluid is in the state none, or its state has no such property.
+    /// Computes the curve of a table fluid over the temperatures of its table at which it is in its
+    /// present state; the vapor pressure, that of any pressure, up to the critical temperature, and
+    /// of a blend both for bubbles and for dew. A user-defined fluid has nothing but the mark.
+    /// `title` names the property, in Windows-1252. False if there is nothing to be seen: the fluid
+    /// is in the state none, or its state has no such property.
     bool Set(const CFluid& fluid, const Units& units, Property property, std::string title);
 
     /// Nothing but a message.
