@@ -13,7 +13,7 @@
 namespace demo {
 namespace {
 
-constexpr int kSteps = 120;
+constexpr int kSteps = 160;
 constexpr int kBisections = 40;      // to the end of a curve between two steps
 constexpr double kHalfWidth = 50.0;  // of a plot with nothing but a mark, in degrees
 constexpr double kFromZero = 0.5;    // an axis begins at 0 if the lowest value is below this part
@@ -119,26 +119,38 @@ class PropertyCurve::Sampler : public CFluid {
     /// Where the values end between two steps the curve ends too: at the place itself, found by
     /// bisection, not at the step.
     template <typename Value>
-    std::vector<Curve> Sampled(double lowest, double highest, Value value) {
+    std::vector<Curve> Sampled(double lowest, double highest, const Value& value) const {
         std::vector<Curve> curves;
-        if (!(highest > lowest)) return curves;
         const auto sample = [&](double kelvin) {
             const double y = value(kelvin);
             return Sample{kelvin, y, IsGood(y)};
         };
+        double begin = lowest;
         Sample before = sample(lowest);
-        if (before.good) curves.push_back({At(before)});
-        for (int i = 1; i <= kSteps; ++i) {
-            const Sample here =
-                sample(i == kSteps ? highest : lowest + (highest - lowest) * i / kSteps);
-            if (before.good != here.good) {
-                if (before.good) curves.back().push_back(At(End(before, here, sample)));
-                if (here.good) curves.push_back({At(End(here, before, sample))});
+        for (int i = 1; i <= kSteps && highest > lowest; ++i) {
+            const Sample here = sample(Step(lowest, highest, i));
+            if (here.good && !before.good) begin = End(here, before, sample).kelvin;
+            if (before.good && (!here.good || i == kSteps)) {
+                curves.push_back(Through(begin, End(before, here, sample).kelvin, value));
             }
-            if (here.good) curves.back().push_back(At(here));
             before = here;
         }
         return curves;
+    }
+
+    static double Step(double lowest, double highest, int i) {
+        return i == kSteps ? highest : lowest + (highest - lowest) * i / kSteps;
+    }
+
+    template <typename Value>
+    Curve Through(double lowest, double highest, const Value& value) const {
+        Curve curve;
+        for (int i = 0; i <= kSteps; ++i) {
+            const double kelvin = Step(lowest, highest, i);
+            const double y = value(kelvin);
+            if (IsGood(y)) curve.push_back({UserTemperature(kelvin), y});
+        }
+        return curve;
     }
 
     struct Sample {
@@ -147,17 +159,16 @@ class PropertyCurve::Sampler : public CFluid {
         bool good;
     };
 
-    /// The sample farthest from `from`, on the way to `to`, that a curve through `from` reaches.
+    /// The last good sample on the way from a good one to another.
     template <typename Take>
     static Sample End(Sample from, Sample to, const Take& sample) {
+        if (to.good) return to;
         for (int i = 0; i < kBisections; ++i) {
             const Sample middle = sample((from.kelvin + to.kelvin) / 2);
-            (from.good == middle.good ? from : to) = middle;
+            (middle.good ? from : to) = middle;
         }
         return from;
     }
-
-    Point At(const Sample& sample) const { return {UserTemperature(sample.kelvin), sample.value}; }
 
     double UserTemperature(double kelvin) const {
         return units_.Convert(HF_TEMPERATURE, kelvin, HF_KELVIN, nullptr);

@@ -90,33 +90,35 @@ TEST(PlotTicks, HaveTheDecimalsOfTheirStep) {
     EXPECT_EQ(TickText(2.5e7, 5e6, ','), "2,5e+07");
 }
 
-TEST_F(PropertyCurveTest, LiquidAndVaporAreTwoCurvesThatEndWhereTheStateChanges) {
-    const PlotPicture picture = Draw(Property::Density);
-    ASSERT_THAT(picture.curves, SizeIs(2));
-    // An axis from 0, since the vapor is light, to the step above 905 kg/m³.
-    const Axes axes(picture, 295.0, 500.0, 0.0, 1000.0);
-    axes.ExpectAt(picture.curves[0].points.front(), 295.0, 1200.0 - 295.0);
-    axes.ExpectAt(picture.curves[0].points.back(), 350.0, 1200.0 - 350.0);
-    // The ideal gas: p M / (R T).
+TEST_F(PropertyCurveTest, ACurveEndsWhereTheStateDoes) {
+    const PlotPicture liquid = Draw(Property::Density, {}, 300.0);
+    ASSERT_THAT(liquid.curves, SizeIs(1));
+    const Axes axes(liquid, 295.0, 350.0, 850.0, 905.0);
+    axes.ExpectAt(liquid.curves[0].points.front(), 295.0, 1200.0 - 295.0);
+    axes.ExpectAt(liquid.curves[0].points.back(), 350.0, 1200.0 - 350.0);
+    ASSERT_THAT(liquid.marks, SizeIs(1));
+    axes.ExpectAt(liquid.marks[0], 300.0, 900.0);
+
+    // The ideal gas: p M / (R T), 5.97 to 4.18 kg/m³.
     const auto gas = [](double t) { return 600.0 * 28.9586 / (8.314462618 * t); };
-    axes.ExpectAt(picture.curves[1].points.front(), 350.0, gas(350.0));
-    axes.ExpectAt(picture.curves[1].points.back(), 500.0, gas(500.0));
-    ASSERT_THAT(picture.marks, SizeIs(1));
-    axes.ExpectAt(picture.marks[0], 300.0, 900.0);
+    const PlotPicture vapor = Draw(Property::Density, {}, 450.0);
+    ASSERT_THAT(vapor.curves, SizeIs(1));
+    const Axes axesOfVapor(vapor, 350.0, 500.0, 4.0, 6.0);
+    axesOfVapor.ExpectAt(vapor.curves[0].points.front(), 350.0, gas(350.0));
+    axesOfVapor.ExpectAt(vapor.curves[0].points.back(), 500.0, gas(500.0));
+    axesOfVapor.ExpectAt(vapor.marks.at(0), 450.0, gas(450.0));
 }
 
-TEST_F(PropertyCurveTest, ABlendHasNothingBetweenBubbleAndDewPoint) {
+TEST_F(PropertyCurveTest, ABlendHasBubblesAndDew) {
     FluidText blend;
     blend.formulas[1] = kDewSide;  // 600 kPa at 355 K
-    const PlotPicture picture = Draw(Property::Viscosity, blend, 400.0);
-    ASSERT_THAT(picture.curves, SizeIs(2));
-    const Axes axes(picture, 295.0, 500.0, 0.0, 2.0);
-    axes.ExpectAt(picture.curves[0].points.back(), 350.0, 2.123456 - 0.35);
-    axes.ExpectAt(picture.curves[1].points.front(), 355.0, 0.01 + 0.00355);
-    axes.ExpectAt(picture.marks.at(0), 400.0, 0.01 + 0.004);
+    const PlotPicture vapor = Draw(Property::Viscosity, blend, 400.0);
+    ASSERT_THAT(vapor.curves, SizeIs(1));
+    const Axes axes(vapor, 355.0, 500.0, 0.0135, 0.015);
+    axes.ExpectAt(vapor.curves[0].points.front(), 355.0, 0.01355);
+    axes.ExpectAt(vapor.marks.at(0), 400.0, 0.014);
 
-    // Its vapor pressures are two curves up to the critical point, the lower one from where it is
-    // above zero.
+    // The vapor pressures go up to the critical point, the lower one from where it is above zero.
     const PlotPicture pressures = Draw(Property::VaporPressure, blend);
     ASSERT_THAT(pressures.curves, SizeIs(2));
     const Axes axesOfPressure(pressures, 295.0, 400.0, 0.0, 1100.0);
@@ -135,21 +137,18 @@ TEST_F(PropertyCurveTest, FollowsTheUsersUnitsAndDecimalSign) {
     curve_.SetDecimalSign(',');
     ASSERT_TRUE(curve_.Set(fluid, units_, Property::Viscosity, "Title"));
     const PlotPicture picture = curve_.Draw(kSize, kTextHeight, kCharWidth);
-    Axes(picture, 21.85, 226.85, 0.0, 2.0).ExpectAt(picture.marks.at(0), 26.85, 1.823456);
+    Axes(picture, 21.85, 76.85, 1.77, 1.83).ExpectAt(picture.marks.at(0), 26.85, 1.823456);
     std::vector<std::string> texts;
     for (const PlotText& text : picture.texts) texts.push_back(text.text);
     EXPECT_THAT(texts, ::testing::IsSupersetOf({"Title, cP",
                                                 "\xB0"
                                                 "C",
-                                                "1,8", "100"}));
+                                                "1,800", "50"}));
 }
 
 TEST_F(PropertyCurveTest, WhatIsNotThereIsNotDrawn) {
-    // A liquid has no ratio of specific heats, its vapor has.
-    const PlotPicture ratio = Draw(Property::HeatRatio);
-    EXPECT_THAT(ratio.curves, SizeIs(1));
-    EXPECT_THAT(ratio.marks, IsEmpty());
-
+    const TestFluid liquid = folder_.Fluid({}, 300.0, 600.0);
+    EXPECT_FALSE(curve_.Set(liquid, units_, Property::HeatRatio, "Title"));
     const TestFluid none = folder_.Fluid({}, 290.0, 600.0);
     EXPECT_FALSE(curve_.Set(none, units_, Property::Density, "Title"));
     curve_.Clear("Nothing");
