@@ -109,6 +109,14 @@ TEST_F(PropertyCurveTest, ACurveEndsWhereTheStateDoes) {
     axesOfVapor.ExpectAt(vapor.marks.at(0), 450.0, gas(450.0));
 }
 
+TEST_F(PropertyCurveTest, AnAxisBeginsAtZeroIfTheCurveFallsByMoreThanHalf) {
+    FluidText table;
+    table.formulas[3] = "P4\t1\t3\t-0.008";  // 0.64 cP at 295 K, 0.2 cP at 350 K
+    const PlotPicture picture = Draw(Property::Viscosity, table);
+    const Axes axes(picture, 295.0, 350.0, 0.0, 0.65);
+    axes.ExpectAt(picture.curves.at(0).points.back(), 350.0, 0.2);
+}
+
 TEST_F(PropertyCurveTest, ABlendHasBubblesAndDew) {
     FluidText blend;
     blend.formulas[1] = kDewSide;  // 600 kPa at 355 K
@@ -149,6 +157,11 @@ TEST_F(PropertyCurveTest, FollowsTheUsersUnitsAndDecimalSign) {
 TEST_F(PropertyCurveTest, WhatIsNotThereIsNotDrawn) {
     const TestFluid liquid = folder_.Fluid({}, 300.0, 600.0);
     EXPECT_FALSE(curve_.Set(liquid, units_, Property::HeatRatio, "Title"));
+
+    // Above the critical temperature a fluid has no vapor pressure.
+    const PlotPicture pressures = Draw(Property::VaporPressure, {}, 450.0);
+    EXPECT_THAT(pressures.curves, SizeIs(1));
+    EXPECT_THAT(pressures.marks, IsEmpty());
     const TestFluid none = folder_.Fluid({}, 290.0, 600.0);
     EXPECT_FALSE(curve_.Set(none, units_, Property::Density, "Title"));
     curve_.Clear("Nothing");
