@@ -68,6 +68,16 @@ void ConditionsPage::ShowChosen() {
     Put(kFixedName, state == FLUID_NONE ? Say(Text::Nothing) : chosen.GetFluidName());
     Enable(dialog_, kTemperature, kPressure, table);
     Enable(dialog_, IDOK, IDOK, table);
+    ShowState();
+}
+
+// A note without figures says what is wrong with the conditions.
+void ConditionsPage::ShowState() {
+    const FLUIDSTATE state = fluid_.GetFluidState();
+    const bool shown = !TextOf(dialog_, kDensity).empty();
+    const bool liquid = state == FLUID_LIQUID || state == FLUID_USER_LIQUID;
+    const bool vapor = state == FLUID_VAPOR || state == FLUID_USER_VAPOR;
+    EnableFigures(dialog_, shown && liquid, shown && vapor);
 }
 
 void ConditionsPage::Relabel() {
@@ -86,7 +96,9 @@ bool ConditionsPage::Command(int control, int code, LPARAM) {
         TakeOver();
         return true;
     }
-    return fluid_.DlgCommand(control, code);
+    if (!fluid_.DlgCommand(control, code)) return false;
+    ShowState();
+    return true;
 }
 
 // Conditions at which the fluid would be in another state stay on this page, whose note says so.

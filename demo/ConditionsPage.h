@@ -26,6 +26,7 @@ class ConditionsPage : public Page {
   private:
     void TakeOver();
     void ShowChosen();
+    void ShowState();
 
     FluidPage& chosen_;
     CFluidDlg fluid_;

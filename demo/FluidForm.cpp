@@ -33,6 +33,12 @@ void ShowFluidUnits(HWND dialog, const Units& units) {
     show(kMolarMassUnit, "kg/kmol");
 }
 
+void EnableFigures(HWND dialog, bool liquid, bool vapor) {
+    Enable(dialog, kHeatRatioLabel, kHeatRatio, vapor);
+    Enable(dialog, kVaporPressureLabel, kVaporPressureUnit, liquid);
+    Enable(dialog, kCriticalPressureLabel, kCriticalPressureUnit, liquid);
+}
+
 double ConvertTemperature(const Units& before, const Units& now, double temperature) {
     return now.Convert(HF_TEMPERATURE, temperature, before.GetUserUnit(HF_TEMPERATURE), nullptr);
 }

@@ -74,6 +74,10 @@ class Rows {
 /// Writes the texts of the user units beside the figures of a fluid.
 void ShowFluidUnits(HWND dialog, const Units& units);
 
+/// Enables the figures that a fluid has in a state, with what stands beside them. The controller
+/// disables them whenever it empties them.
+void EnableFigures(HWND dialog, bool liquid, bool vapor);
+
 /// A set point in the present units, as it was in those `before`; pressures keep their absolute
 /// value.
 double ConvertTemperature(const Units& before, const Units& now, double temperature);

@@ -149,9 +149,7 @@ void FluidPage::EnableTyping() {
     const FLUIDSTATE state = fluid_.GetFluidState();
     const bool none = !own && state == FLUID_NONE;
     const bool vapor = IsDlgButtonChecked(dialog_, kVapor) != 0;
-    Enable(dialog_, kHeatRatioLabel, kHeatRatio, vapor && !none);
-    Enable(dialog_, kVaporPressureLabel, kVaporPressureUnit, !vapor && !none);
-    Enable(dialog_, kCriticalPressureLabel, kCriticalPressureUnit, !vapor && !none);
+    EnableFigures(dialog_, !vapor && !none, vapor && !none);
 }
 
 void FluidPage::Update() {
@@ -172,8 +170,8 @@ void FluidPage::Update() {
 void FluidPage::TakeOver() {
     if (IsPicked()) return;
     const bool vapor = IsDlgButtonChecked(dialog_, kVapor) != 0;
-    const bool complete = fluid_.GetProperties(vapor ? FLUID_USER_VAPOR : FLUID_USER_LIQUID);
-    Put(kFluidNote, complete ? std::string() : Say(Text::Incomplete));
+    complete_ = fluid_.GetProperties(vapor ? FLUID_USER_VAPOR : FLUID_USER_LIQUID);
+    Put(kFluidNote, complete_ ? std::string() : Say(Text::Incomplete));
     Update();
 }
 
@@ -242,7 +240,8 @@ void FluidPage::ConvertTyped(const Units& before) {
 
 std::string FluidPage::Summary() const {
     const FLUIDSTATE state = fluid_.GetFluidState();
-    if (state == FLUID_NONE) return {};
+    const bool own = state == FLUID_USER_LIQUID || state == FLUID_USER_VAPOR;
+    if (state == FLUID_NONE || (own && !complete_)) return {};
     const bool liquid = state == FLUID_LIQUID || state == FLUID_USER_LIQUID;
     std::string phase = Say(liquid ? Text::Liquid : Text::Vapor);
     std::erase(phase, '&');

@@ -41,6 +41,7 @@ class FluidPage : public Page {
 
     mutable CFluidDlg fluid_;
     PropertyCurve curve_;
+    bool complete_ = false;  ///< the properties of an own fluid that was taken over
 };
 
 }  // namespace demo

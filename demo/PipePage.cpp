@@ -36,8 +36,9 @@ win32::DialogBuilder PipePage::Form() const {
     short y = 13;
     const auto row = [&](int label, int value, int unit) {
         form.Static(label, "", {192, y, 92, 9}, WS_GROUP);
-        form.Static(value, "", {288, y, 130, 9}, SS_NOPREFIX);
-        if (unit != 0) form.Static(unit, "", {420, y, 40, 9}, SS_NOPREFIX);
+        const short width = unit != 0 ? 80 : 206;
+        form.Static(value, "", {288, y, width, 9}, SS_NOPREFIX);
+        if (unit != 0) form.Static(unit, "", {374, y, 40, 9}, SS_NOPREFIX);
         y = static_cast<short>(y + 14);
     };
     row(kMaterialLabel, kMaterial, 0);
@@ -46,7 +47,7 @@ win32::DialogBuilder PipePage::Form() const {
     row(kHazenWilliamsLabel, kHazenWilliams, 0);
     form.Static(kSizeLabel, "", {192, static_cast<short>(y + 8), 92, 9}, WS_GROUP);
     form.ComboBox(kSizes, {288, static_cast<short>(y + 6), 80, 160}, WS_VSCROLL);
-    form.Static(kSizeUnit, "", {420, static_cast<short>(y + 8), 40, 9}, SS_NOPREFIX);
+    form.Static(kSizeUnit, "", {374, static_cast<short>(y + 8), 40, 9}, SS_NOPREFIX);
     y = static_cast<short>(y + 24);
     row(kDiameterLabel, kDiameter, kDiameterUnit);
     form.Static(kPipeNote, "", {0, 253, 498, 9}, SS_NOPREFIX);

@@ -140,6 +140,7 @@ std::vector<Act> Story(MainDialog& dialog) {
         {"own-fluid",
          [=] {
              person.Type(kFluidPage, kOwnName, "Brine");
+             user::Click(person.On(kFluidPage, kLiquid));
              person.TypeConditions(kFluidPage, "20", "3");
              person.Type(kFluidPage, kDensity, "1150");
              person.Type(kFluidPage, kViscosity, "1.9");

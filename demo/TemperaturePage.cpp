@@ -54,7 +54,15 @@ void TemperaturePage::Init() {
 }
 
 // As if the temperature had just been typed.
-void TemperaturePage::Calculate() { fluid_.DlgCommand(kTemperature, EN_KILLFOCUS); }
+void TemperaturePage::Calculate() {
+    fluid_.DlgCommand(kTemperature, EN_KILLFOCUS);
+    ShowState();
+}
+
+void TemperaturePage::ShowState() {
+    const FLUIDSTATE state = fluid_.GetFluidState();
+    EnableFigures(dialog_, state == FLUID_LIQUID, state == FLUID_VAPOR);
+}
 
 void TemperaturePage::Relabel() {
     Page::Relabel();
@@ -80,7 +88,9 @@ bool TemperaturePage::Command(int control, int code, LPARAM) {
         Calculate();
         return true;
     }
-    return fluid_.DlgCommand(control, code);
+    if (!fluid_.DlgCommand(control, code)) return false;
+    ShowState();
+    return true;
 }
 
 }  // namespace demo

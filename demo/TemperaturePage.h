@@ -22,6 +22,7 @@ class TemperaturePage : public Page {
 
   private:
     void Calculate();
+    void ShowState();
 
     CFluidDlg fluid_;
 };

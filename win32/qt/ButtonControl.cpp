@@ -121,6 +121,11 @@ class GroupBox : public Control {
   public:
     GroupBox(Screen& screen, HWND window, QWidget* parent)
         : Control(screen, window), widget_(std::make_unique<QGroupBox>(parent)) {
+        // The title stands in the frame, as dialogs are laid out for; the style's own would push
+        // the frame down onto the first row.
+        widget_->setStyleSheet(QStringLiteral(
+            "QGroupBox { border: 1px solid palette(mid); border-radius: 3px; margin-top: 0.5em; }"
+            "QGroupBox::title { subcontrol-origin: margin; left: 7px; padding: 0 3px; }"));
         Watch(*widget_);
         PutBehindControls(parent);
     }
