@@ -342,7 +342,7 @@ class PropertyCurve::Painting {
     void DrawColumns() {
         const LONG y = area_.bottom + charWidth_ / 2;
         const LONG unitBegins = size_.cx - WidthOf(curve_.temperatureUnit_) - charWidth_;
-        constexpr int kCharsApart = 7;
+        constexpr int kCharsApart = 6;
         const LONG width = area_.right - area_.left;
         const Ticks ticks = MakeTicks(
             lowest_.x, highest_.x, static_cast<int>(width) / std::max(kCharsApart * charWidth_, 1));
