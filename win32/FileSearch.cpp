@@ -2,6 +2,7 @@
 
 #include <dirent.h>
 #include <strings.h>
+#include <sys/stat.h>
 
 #include <cctype>
 #include <cstring>
@@ -59,7 +60,7 @@ struct CloseDirectory {
 };
 
 struct Search {
-    std::unique_ptr<DIR, CloseDirectory> directory;
+    std::unique_ptr<DIR, CloseDirectory> directory;  // null: there is nothing more to find
     std::string pattern;
 };
 
@@ -72,6 +73,7 @@ bool NameMatches(std::string_view pattern, std::string_view name) {
 }
 
 bool Next(Search& search, WIN32_FIND_DATAA* found) {
+    if (!search.directory) return false;
     // NOLINTNEXTLINE(concurrency-mt-unsafe): each search has a stream of its own
     while (const dirent* entry = ::readdir(search.directory.get())) {
         const std::size_t length = std::strlen(entry->d_name);
@@ -84,6 +86,19 @@ bool Next(Search& search, WIN32_FIND_DATAA* found) {
     return false;
 }
 
+// A name without wildcards that is there, be it a link that leads nowhere, need not be searched for
+// among thousands of others.
+bool IsThere(const std::string& path, std::string_view name, WIN32_FIND_DATAA* found) {
+    struct stat status {};
+    if (name.empty() || name.size() >= sizeof found->cFileName ||
+        name.find_first_of("*?") != std::string_view::npos || ::lstat(path.c_str(), &status) != 0) {
+        return false;
+    }
+    found->dwFileAttributes = S_ISDIR(status.st_mode) ? 0x10U : 0x80U;
+    found->cFileName[name.copy(found->cFileName, name.size())] = '\0';
+    return true;
+}
+
 }  // namespace
 
 HANDLE FindFirstFileA(LPCSTR pattern, WIN32_FIND_DATAA* found) {
@@ -92,10 +107,13 @@ HANDLE FindFirstFileA(LPCSTR pattern, WIN32_FIND_DATAA* found) {
     const bool hasFolder = slash != std::string_view::npos;
     const std::string folder = hasFolder ? std::string(whole.substr(0, slash + 1)) : "./";
 
+    const std::string_view name = hasFolder ? whole.substr(slash + 1) : whole;
+
     auto search = std::make_unique<Search>();
+    if (IsThere(pattern, name, found)) return search.release();
     search->directory.reset(::opendir(folder.c_str()));
     if (!search->directory) return INVALID_HANDLE_VALUE;
-    search->pattern = hasFolder ? whole.substr(slash + 1) : whole;
+    search->pattern = name;
     if (!Next(*search, found)) return INVALID_HANDLE_VALUE;
     return search.release();
 }
