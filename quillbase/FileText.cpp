@@ -28,6 +28,7 @@ FileText::FileText(const char* path) {
     LARGE_INTEGER size{};
     if (!file.IsOpen() || GetFileSizeEx(file.get(), &size) == FALSE) return;
     const auto length = static_cast<std::size_t>(size.QuadPart);
+    if (length > kLongest) return;
     text_ = std::make_unique_for_overwrite<char[]>(length);
     size_ = ReadUpTo(file.get(), text_.get(), length);
     valid_ = true;

@@ -12,7 +12,12 @@ class FileText {
   public:
     explicit FileText(const char* path);
 
-    /// False if the file is absent, unreadable or not a plain file (a folder, a device, a pipe).
+    /// The longest file that is read, 1 GiB: a longer one is no text that anybody wrote, and there
+    /// may be no memory for it.
+    static constexpr std::size_t kLongest = std::size_t{1} << 30U;
+
+    /// False if the file is absent, unreadable, longer than kLongest or not a plain file (a folder,
+    /// a device, a pipe).
     bool Valid() const { return valid_; }
 
     /// The content as it stands in the file; empty if there is none.
