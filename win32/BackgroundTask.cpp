@@ -75,6 +75,7 @@ class Tasks {
     bool Start(LPTHREAD_START_ROUTINE procedure, void* parameter) {
         const std::lock_guard lock(mutex_);
         CloseEnded();
+        threads_.reserve(threads_.size() + 1);  // a thread that runs has to be known
         const HANDLE thread = CreateThread(nullptr, 0, procedure, parameter, 0, nullptr);
         if (thread == nullptr) return false;
         threads_.push_back(thread);

@@ -27,13 +27,15 @@ void CFluidScan::LoadFluidNames(const char* tableDir, FLUIDSTATE state, double h
     const std::shared_ptr<hydrofacts::FluidNames> names = hydrofacts::FluidTableCache();
     const std::lock_guard lock(names->mutex);
     if (!names->text.empty()) return;
-    names->text.reserve(kUsualSize);
+    std::string found;  // apart, so that a scan without memory for all names leaves none
+    found.reserve(kUsualSize);
     for (hydrofacts::TableSearch tables(tableDir, ".FTBL"); tables.Next();) {
         if (win32::StopRequested()) return;
         if (!IsUsable(tableDir, tables.Name(), state, highLimit, lowLimit)) continue;
-        names->text += tables.Name();
-        names->text += '\t';
+        found += tables.Name();
+        found += '\t';
     }
+    names->text.swap(found);
 }
 
 bool CFluidScan::IsUsable(const char* tableDir, const char* name, FLUIDSTATE state,
