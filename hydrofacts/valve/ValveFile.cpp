@@ -233,11 +233,13 @@ int CValveTable::DeviceTypeIdx(const char* name) {
 void CValveTable::AddFixedRecords() {
     for (const FixedRecord& fixed : kFixedRecords) {
         if (ValveData("", fixed.formula, kOtherDevices) != nullptr) continue;
-        CValveType& record = ListEnd(lists[kOtherDevices]).Append(std::make_unique<CValveType>());
-        record.device_type = kOtherDevices;
-        record.formula = fixed.formula;
-        record.image = fixed.image;
-        rstrncpy(record.name, fixed.name, sizeof record.name);
-        hydrofacts::SetNumbers(record, std::make_unique<double[]>(kNumbers), kNumbers);
+        // Whole before it is in the list, which stays good if there is no memory for a part of it.
+        auto record = std::make_unique<CValveType>();
+        record->device_type = kOtherDevices;
+        record->formula = fixed.formula;
+        record->image = fixed.image;
+        rstrncpy(record->name, fixed.name, sizeof record->name);
+        hydrofacts::SetNumbers(*record, std::make_unique<double[]>(kNumbers), kNumbers);
+        ListEnd(lists[kOtherDevices]).Append(std::move(record));
     }
 }
