@@ -12,8 +12,8 @@
 
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
+using testing::IsEmpty;
 using win32::qt::QtView;
 
 enum : int { kEdit = 101, kOpen, kPage, kOnPage };
@@ -93,18 +93,23 @@ TEST(DialogView, IsClosedByItsTitleBar) {
     dialog.Settle();
     EXPECT_THAT(dialog.Model().TakeLog(), ElementsAre(Notification{IDCANCEL, BN_CLICKED}));
     EXPECT_TRUE(dialog.Window().isVisible());
+    EnableWindow(dialog.Handle(), FALSE);
+    dialog.Window().close();
+    dialog.Press(Qt::Key_Escape);
+    EXPECT_THAT(dialog.Model().TakeLog(), IsEmpty());
 }
 
 TEST(DialogView, IsResizedWithinItsLimits) {
     struct Sizes {
         std::vector<QSize> told;
+        POINT least{200, 150};
     };
     static Sizes sizes;
     sizes = {};
     const DLGPROC procedure = [](HWND, UINT message, WPARAM, LPARAM lParam) -> INT_PTR {
         if (message == WM_SIZE) sizes.told.emplace_back(LOWORD(lParam), HIWORD(lParam));
         if (message == WM_GETMINMAXINFO) {
-            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {200, 150};
+            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = sizes.least;
         }
         return FALSE;
     };
@@ -122,6 +127,10 @@ TEST(DialogView, IsResizedWithinItsLimits) {
     GetClientRect(dialog, &place);
     EXPECT_EQ(QSize(place.right, place.bottom), QSize(500, 400));
     MoveWindow(dialog, 0, 0, 300, 10, TRUE);
+    ShownDialog::SettleView(view, dialog);
+    EXPECT_EQ(window.size(), QSize(300, 150));
+    sizes.least = {300, 150};
+    window.resize(250, 150);  // which the dialog refuses by now
     ShownDialog::SettleView(view, dialog);
     EXPECT_EQ(window.size(), QSize(300, 150));
     DestroyWindow(dialog);
@@ -244,7 +253,10 @@ TEST(DialogView, IsServedByTheLoopOfQt) {
         if (id != kOpen || code != BN_CLICKED) return;
         // A modal dialog has the loop of the host's thread, until it ends.
         Modal modal(dialog.View(), [&](HWND shown) {
-            QTest::keyClick(dialog.View().WidgetOf(GetDlgItem(shown, kEdit)), Qt::Key_Return);
+            QTest::keyClicks(dialog.View().WidgetOf(GetDlgItem(shown, kEdit)), QStringLiteral("3"));
+            std::thread([ok = GetDlgItem(shown, IDOK)] {
+                PostMessageA(ok, BM_CLICK, 0, 0);
+            }).detach();
         });
         seen.push_back(std::to_string(modal.Run(dialog.Handle())));
         // Messages of other threads come in without an event of Qt.

@@ -142,6 +142,7 @@ TEST_F(ListView, DropsDownAndPicks) {
     QApplication::sendEvent(&combo, &wheel);
     dialog_.Settle();
     EXPECT_EQ(Selected(kUnit), -1);
+    EXPECT_EQ(combo.currentIndex(), -1);
 }
 
 TEST_F(ListView, ClosesWithoutAPick) {
@@ -173,6 +174,13 @@ TEST_F(ListView, ClosesWithoutAPick) {
     dialog_.Settle();
     EXPECT_FALSE(combo.view()->isVisible());
     EXPECT_EQ(combo.currentText(), QString::fromUtf8("°C"));
+    // The mouse lies on a row and Enter is pressed: it is the row that looks selected.
+    dialog_.Click(combo);
+    combo.view()->setCurrentIndex(combo.model()->index(2, 0));
+    QTest::keyClick(combo.view(), Qt::Key_Return);
+    dialog_.Settle();
+    EXPECT_FALSE(combo.view()->isVisible());
+    EXPECT_EQ(Selected(kUnit), 2);
 }
 
 TEST_F(ListView, LetsTypeIntoAComboBox) {
@@ -196,6 +204,14 @@ TEST_F(ListView, LetsTypeIntoAComboBox) {
     SetDlgItemTextA(dialog_.Handle(), kSize, "6");
     dialog_.Settle();
     EXPECT_EQ(combo.lineEdit()->text(), QStringLiteral("6"));
+    // Other rows leave what is typed and selected as it is.
+    dialog_.Type("12");
+    dialog_.Model().Send(kSize, CB_SETEDITSEL, 0, MAKELPARAM(0, 2));
+    Add(kSize, CB_ADDSTRING, "2");
+    dialog_.Settle();
+    EXPECT_EQ(combo.count(), 4);
+    EXPECT_EQ(combo.lineEdit()->selectedText(), QStringLiteral("12"));
+    EXPECT_EQ(dialog_.Model().Send(kSize, CB_GETEDITSEL), MAKELPARAM(0, 2));
 }
 
 }  // namespace

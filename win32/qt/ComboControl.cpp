@@ -104,6 +104,8 @@ void Combo::Place(const QRect& place) {
 void Combo::Show() {
     {
         const QSignalBlocker quiet(*widget_);
+        // Other rows put another text into the edit for a moment, which the user hasn't done.
+        const QSignalBlocker quietEdit(widget_->lineEdit());
         rows_->Show();
         const auto row = static_cast<int>(SendMessageA(Window(), CB_GETCURSEL, 0, 0));
         if (widget_->currentIndex() != row) widget_->setCurrentIndex(row);
