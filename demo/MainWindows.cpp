@@ -1,7 +1,15 @@
 // The program on Windows.
+//
+//   hydrofacts-demo [--story FOLDER]    plays a user's story and keeps a picture of each act
+
+#include <cstdlib>
+#include <string>
+#include <string_view>
 
 #include "demo/MainDialog.h"
 #include "demo/PlotGdi.h"
+#include "demo/ScreenGdi.h"
+#include "demo/Story.h"
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     InitCommonControls();
@@ -17,6 +25,11 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     demo::MainDialog dialog(site);
     if (!dialog.Create()) return 1;
     ShowWindow(dialog.Handle(), SW_SHOW);
+    if (__argc == 3 && std::string_view(__argv[1]) == "--story") {
+        demo::Play(dialog, [folder = std::string(__argv[2])](const std::string& act) {
+            demo::KeepPicture(GetActiveWindow(), folder + '\\' + act + ".bmp");
+        });
+    }
 
     MSG message{};
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
