@@ -111,6 +111,7 @@ constexpr UINT kPause = 400;  // ms, for the screen to follow
 // An act may run a modal loop in which the next ticks come, so the place is noted before.
 void CALLBACK Tick(HWND, UINT, UINT_PTR timer, DWORD) {
     Playing& now = Now();
+    if (now.next < now.acts.size() && !IsTimeFor(now.acts[now.next], *now.dialog)) return;
     if (now.next > 0) now.seen(now.acts[now.next - 1].name);
     if (now.next == now.acts.size()) {
         KillTimer(nullptr, timer);
@@ -179,8 +180,8 @@ std::vector<Act> Story(MainDialog& dialog) {
         // The next act is played while this one's dialog is open.
         {"elevation", [=] { user::Click(person.Main(kElevation)); }},
         {"elevation-typed",
-         [] { user::TypeOver(GetDlgItem(GetActiveWindow(), kElevationEdit), "1600"); }},
-        {"elevation-taken", [] { user::Click(GetDlgItem(GetActiveWindow(), IDOK)); }},
+         [] { user::TypeOver(GetDlgItem(GetActiveWindow(), kElevationEdit), "1600"); }, true},
+        {"elevation-taken", [] { user::Click(GetDlgItem(GetActiveWindow(), IDOK)); }, true},
         {"message",
          [=] {
              person.Open(kFluidPage);
@@ -191,6 +192,11 @@ std::vector<Act> Story(MainDialog& dialog) {
         {"message-italian", [=] { user::PickRow(person.Main(kLanguage), 3); }},
         {"message-spanish", [=] { user::PickRow(person.Main(kLanguage), 4); }},
     };
+}
+
+bool IsTimeFor(const Act& act, const MainDialog& dialog) {
+    const HWND active = GetActiveWindow();
+    return !act.inDialog || (active != nullptr && active != dialog.Handle());
 }
 
 void Play(MainDialog& dialog, std::function<void(const std::string& name)> seen) {

@@ -14,9 +14,14 @@ namespace demo {
 struct Act {
     std::string name;            ///< also that of its picture
     std::function<void()> play;  ///< the act that opens the elevation dialog returns when that ends
+    bool inDialog = false;       ///< in a dialog that the main one has opened
 };
 
 std::vector<Act> Story(MainDialog& dialog);
+
+/// Whether an act can be played: a dialog gets no keys before it is shown, which Windows does when
+/// nothing else is left to do.
+bool IsTimeFor(const Act& act, const MainDialog& dialog);
 
 /// Plays the acts one after the other from the message loop, also from that of a modal dialog, and
 /// calls `seen` after each one, when its outcome has been drawn. Ends the program's loop behind the

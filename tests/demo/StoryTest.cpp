@@ -126,12 +126,16 @@ TEST_F(DemoStory, ChoosesAPipeAndAValve) {
 // The elevation dialog runs a loop of its own, in which the next acts come from a timer.
 TEST_F(DemoStory, AsksForThePressureAtAnElevation) {
     static const std::vector<demo::Act>* acts = nullptr;
+    static const demo::MainDialog* dialog = nullptr;
     static std::size_t next = 0;
     acts = &acts_;
+    dialog = &dialog_;
     next = static_cast<std::size_t>(std::ranges::find(acts_, "elevation-typed", &demo::Act::name) -
                                     acts_.begin());
     const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR id, DWORD) {
-        const demo::Act& act = (*acts)[next++];
+        const demo::Act& act = (*acts)[next];
+        if (!demo::IsTimeFor(act, *dialog)) return;
+        ++next;
         if (act.name == "elevation-taken") KillTimer(nullptr, id);
         act.play();
     });
