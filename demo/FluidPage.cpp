@@ -157,11 +157,11 @@ void FluidPage::Update() {
     const int row = PickedRow(dialog_, kPlotProperty);
     curve_.SetDecimalSign(DecimalSign(site_.language));
     const bool drawn = IsPicked() && fluid_.GetFluidState() != FLUID_NONE && row >= 0;
-    if (drawn) {
-        curve_.Set(fluid_, site_.units, static_cast<Property>(row),
-                   PickedText(dialog_, kPlotProperty));
-    } else {
+    if (!drawn) {
         curve_.Clear(Say(Text::NoPlot));
+    } else if (!curve_.Set(fluid_, site_.units, static_cast<Property>(row),
+                           PickedText(dialog_, kPlotProperty))) {
+        curve_.Clear(Say(Text::NotInThisState));
     }
     InvalidateRect(GetDlgItem(dialog_, kPlot), nullptr, TRUE);
     if (site_.changed) site_.changed();

@@ -42,6 +42,7 @@ enum class Text {
     Incomplete,
     Plot,
     NoPlot,
+    NotInThisState,
     Fluid,
     FromFluidPage,
     Pipes,
