@@ -1,0 +1,25 @@
+#ifndef HYDROFACTS_TESTS_FAULTS_FAULTTABLES_H
+#define HYDROFACTS_TESTS_FAULTS_FAULTTABLES_H
+
+#include "tests/support/TableText.h"
+
+// A table of each kind, small enough to be seen at a glance.
+
+/// A liquid with 1200 − T kg/m³ at T in K, from 295 to 395 K.
+inline const std::string kFluidTable = TableText(
+    "S|\"Plain\"\nV|\"1.0\"|x|3|5\nD|28.9586|400|1100|295|395|295|500|5000\n"
+    "P1|1|-2900|10\nP2|0\nP3|1|1200|-1\nP4|1|2.1|-0.001\nP5|1\nP6|1|0.01|0.00001\nP7|1|33.2576\n");
+
+/// Schedule 40 in three sizes.
+inline const std::string kPipeTable = TableText(
+    "S|\"Steel\"\nV|\"1.0\"|x|1|9\nR|0.0018|0.0457|140\nZ|40|1|25|1.049|0.133|26.64|3.38\n"
+    "Z|40|2|50|2.067|0.154|52.48|3.91\nZ|40|3|80|3.068|0.216|77.92|5.49\n");
+
+/// Two devices, one of them in several rows.
+inline const std::string kValveTable = TableText(
+    "S|\"Standard\"\nV|\"1\"\nZ|Valve|\"Gate\"|1|8|0|0|6\n"
+    "Z|Bend|\"Elbow\"|9|0.5|2|50|4\nZ|Bend|\"Elbow\"|9|0.4|6|150|4\n");
+
+inline constexpr int kFormulas[] = {1, 9, 0};
+
+#endif

@@ -1,0 +1,231 @@
+// No memory: what a host asks for ends with std::bad_alloc, and the object that it asked is good
+// for the next question. Each operation is run with its first allocation refused, then its second,
+// and so on.
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <limits>
+#include <memory>
+#include <new>
+#include <string>
+
+#include "hydrofacts/dialogs/CFluidScan.h"
+#include "hydrofacts/dialogs/FluidNames.h"
+#include "hydrofacts/dialogs/FluidTableCache.h"
+#include "hydrofacts/frame/Module.h"
+#include "hydrofacts/pipe/CPipeTableList.h"
+#include "hydrofacts/valve/CValveTable.h"
+#include "quillbase/CAtmPressure.h"
+#include "quillbase/CTableReader.h"
+#include "quillbase/Directory.h"
+#include "tests/faults/FaultTables.h"
+#include "tests/support/TempFolder.h"
+
+namespace {
+
+constexpr long kNever = std::numeric_limits<long>::max();
+
+// How many allocations are granted before all are refused.
+std::atomic<long> granted{kNever};
+
+// NOLINTBEGIN(cppcoreguidelines-no-malloc, cppcoreguidelines-owning-memory): these are what
+// operator new is made of
+void* Allocate(std::size_t size) {
+    const bool refused = granted != kNever && granted.fetch_sub(1) <= 0;
+    void* memory = refused ? nullptr : std::malloc(size == 0 ? 1 : size);
+    if (memory == nullptr) throw std::bad_alloc();
+    return memory;
+}
+
+// Apart, since the compiler takes an inlined call of free for a mismatch.
+[[gnu::noinline]] void Release(void* memory) { std::free(memory); }
+// NOLINTEND(cppcoreguidelines-no-malloc, cppcoreguidelines-owning-memory)
+
+}  // namespace
+
+void* operator new(std::size_t size) { return Allocate(size); }
+void* operator new[](std::size_t size) { return Allocate(size); }
+void operator delete(void* memory) noexcept { Release(memory); }
+void operator delete[](void* memory) noexcept { Release(memory); }
+void operator delete(void* memory, std::size_t) noexcept { Release(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { Release(memory); }
+
+namespace {
+
+class Refusing {
+  public:
+    explicit Refusing(long first) { granted = first; }
+    ~Refusing() { granted = kNever; }
+    Refusing(const Refusing&) = delete;
+    Refusing& operator=(const Refusing&) = delete;
+};
+
+/// Runs an operation with ever more memory until it has enough, and a check after each failure.
+/// Gives how often it failed.
+template <class Operation, class Check>
+int FailEverywhere(Operation operation, Check check) {
+    constexpr int kEnough = 10000;
+    for (int allowed = 0; allowed < kEnough; ++allowed) {
+        bool failed = false;
+        try {
+            const Refusing refusing(allowed);
+            operation();
+        } catch (const std::bad_alloc&) {
+            failed = true;
+        }
+        if (!failed) return allowed;
+        check();
+    }
+    ADD_FAILURE() << "no memory is enough";
+    return kEnough;
+}
+
+class MemoryFaults : public ::testing::Test {
+  protected:
+    MemoryFaults() : path_(folder_.Path()) {
+        folder_.Write("Plain.FTBL", kFluidTable);
+        folder_.Write("Steel.PTBL", kPipeTable);
+        folder_.Write("Standard.VTBL", kValveTable);
+        SetDirectory(DIR_TABLES, path_.c_str());
+    }
+    ~MemoryFaults() override { SetDirectory(DIR_TABLES, nullptr); }
+
+    TempFolder folder_;
+    std::string path_;
+};
+
+class OpenPipe : public CPipeTable {
+  public:
+    using CPipeTable::CPipeTable;
+    int Sizes() const {
+        int sizes = 0;
+        for (const t_pipe_size* size = pipe_list; size != nullptr; size = size->next) ++sizes;
+        return sizes;
+    }
+};
+
+TEST_F(MemoryFaults, FluidLoadsOnceThereIsMemory) {
+    CFluid fluid(HF_KELVIN, HF_KPA, 1, 0.0);
+    const auto load = [&] { fluid.SetFluid(path_.data(), "Plain", 300.0); };
+    EXPECT_GT(FailEverywhere(load, [&] { EXPECT_EQ(fluid.GetFluidState(), FLUID_NONE); }), 0);
+    EXPECT_EQ(fluid.GetFluidState(), FLUID_LIQUID);
+    const auto copy = [&] {
+        const CFluid copied(fluid);
+        EXPECT_EQ(copied.GetViscosityValue().raw_value(), fluid.GetViscosity());
+    };
+    EXPECT_GT(FailEverywhere(copy, [&] { EXPECT_EQ(fluid.GetDensity(), 900.0); }), 1);
+}
+
+TEST_F(MemoryFaults, PipeTableHasTheSizesThatFoundRoom) {
+    OpenPipe pipe(HF_US);
+    const auto load = [&] {
+        pipe.LoadMaterial(nullptr, "Steel");
+        pipe.LoadPipeList("40", nullptr);
+    };
+    const auto isSound = [&] {
+        EXPECT_EQ(pipe.IsValid(), pipe.Sizes() > 0);
+        EXPECT_LT(pipe.Sizes(), 3);
+        EXPECT_EQ(pipe.PipeDia(3.0), 0.0);
+    };
+    EXPECT_GT(FailEverywhere(load, isSound), 4);
+    EXPECT_EQ(pipe.PipeDia(3.0), 3.068);
+
+    OpenPipe copy(HF_METRIC);
+    const auto assign = [&] { copy = pipe; };
+    EXPECT_EQ(FailEverywhere(assign, [&] { EXPECT_LT(copy.Sizes(), 3); }), 3);
+    EXPECT_EQ(copy.Sizes(), 3);
+    EXPECT_EQ(pipe.Sizes(), 3);
+    EXPECT_EQ(FailEverywhere([&] { const OpenPipe copied(pipe); }, [] {}), 3);
+}
+
+TEST_F(MemoryFaults, ListsOfPipesReleaseWhatTheyHad) {
+    const CPipeTableList list(HF_US);
+    const auto listAll = [&] {
+        const std::unique_ptr<char[]> tables(list.ListPipeTables(100, 0.0, 0.0));
+        const std::unique_ptr<char[]> schedules(list.ListPipeSchedules(100, "Steel"));
+        const std::unique_ptr<char[]> sizes(list.ListPipeSizes(100, "Steel", "40"));
+        granted = kNever;
+        EXPECT_STREQ(sizes.get(), "1\t2\t3");
+    };
+    EXPECT_GT(FailEverywhere(listAll, [] {}), 3);
+}
+
+TEST_F(MemoryFaults, ValveTableHasTheDevicesThatFoundRoom) {
+    CValveTable valves;
+    const auto load = [&] { valves.LoadValveTable(path_.c_str(), "Standard", HF_US, kFormulas); };
+    const auto isSound = [&] {
+        const CValveType* elbow = valves.Find("Elbow");
+        EXPECT_TRUE(elbow == nullptr || elbow->data_count == 4);
+        EXPECT_EQ(valves.Find("Fixed Kv"), nullptr);
+    };
+    EXPECT_GT(FailEverywhere(load, isSound), 8);
+    EXPECT_NE(valves.Find("Fixed Kv"), nullptr);
+    CValveTable copy;
+    EXPECT_EQ(FailEverywhere([&] { copy = valves; }, [] {}), 10) << "five devices with numbers";
+    EXPECT_NE(copy.Find("Fixed Kv"), nullptr);
+    // A device keeps what it had.
+    CValveType device(*valves.Find("Gate"));
+    EXPECT_EQ(FailEverywhere([&] { device = *valves.Find("Elbow"); },
+                             [&] { EXPECT_EQ(device.data_count, 3); }),
+              1);
+    EXPECT_EQ(device.data_count, 4);
+}
+
+TEST_F(MemoryFaults, IniFileIsWrittenWholeOrNotAtAll) {
+    std::string ini = folder_.Write("host.ini", "[B]\nx=1\n");
+    const std::string before = folder_.Read("host.ini");
+    CAtmPressure atmosphere;
+    const auto save = [&] { EXPECT_TRUE(atmosphere.SetToINI(1.5, HF_BAR, ini.data())); };
+    EXPECT_GT(FailEverywhere(save, [&] { EXPECT_EQ(folder_.Read("host.ini"), before); }), 2);
+    const auto read = [&] { EXPECT_TRUE(atmosphere.GetFromINI(ini.data())); };
+    const double former = atmosphere.Value(HF_KPA);
+    EXPECT_GT(FailEverywhere(read, [&] { EXPECT_EQ(atmosphere.Value(HF_KPA), former); }), 1);
+    EXPECT_EQ(atmosphere.Value(HF_BAR), 1.5);
+}
+
+TEST_F(MemoryFaults, DirectoryStaysAsItWas) {
+    const std::string other(100, 'x');
+    const auto set = [&] { SetDirectory(DIR_TABLES, other.c_str()); };
+    const auto isUnchanged = [&] {
+        char buffer[260];
+        GetDirectory(DIR_TABLES, buffer, 0);
+        EXPECT_EQ(buffer, path_);
+    };
+    EXPECT_GT(FailEverywhere(set, isUnchanged), 0);
+}
+
+TEST_F(MemoryFaults, ScanThatFindsNoRoomLeavesNoNames) {
+    const auto names = hydrofacts::FluidTableCache();
+    names->text.clear();
+    const auto scan = [&] { CFluidScan().LoadFluidNames(path_.c_str(), FLUID_NONE, 0.0, 0.0); };
+    EXPECT_GT(FailEverywhere(scan, [&] { EXPECT_EQ(names->text, ""); }), 2);
+    EXPECT_EQ(names->text, "Plain\t");
+    names->text.clear();
+}
+
+// On its own thread nobody could catch what the scan throws.
+TEST_F(MemoryFaults, ScanInTheBackgroundEndsWithoutNames) {
+    constexpr int kMostAllocations = 20;
+    const auto names = hydrofacts::FluidTableCache();
+    for (int allowed = 0; allowed < kMostAllocations; ++allowed) {
+        names->text.clear();
+        try {
+            const Refusing refusing(allowed);
+            InitFluidTableCache(FLUID_NONE);
+            ::usleep(10000);  // the thread's allocations are refused too
+        } catch (const std::bad_alloc&) {
+            continue;  // there was none for the thread itself
+        }
+        const std::string found = hydrofacts::FluidNamesFound();
+        EXPECT_TRUE(found.empty() || found == "Plain\t") << found;
+    }
+    InitFluidTableCache(FLUID_NONE);
+    for (int i = 0; i < 1000 && hydrofacts::FluidNamesFound().empty(); ++i) ::usleep(10000);
+    EXPECT_EQ(hydrofacts::FluidNamesFound(), "Plain\t");
+    names->text.clear();
+}
+
+}  // namespace

@@ -1,0 +1,77 @@
+// Every fuzz target on every input that is kept for it. A target that is let down ends the process.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "fuzz/Targets.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using hydrofacts::fuzz::Target;
+
+std::vector<fs::path> KeptFor(const Target& target) {
+    std::vector<fs::path> files;
+    for (const char* kept : {"corpus", "regressions"}) {
+        const fs::path folder = fs::path(HYDROFACTS_FUZZ_INPUTS) / kept / target.name;
+        if (!fs::is_directory(folder)) continue;
+        std::copy(fs::directory_iterator(folder), {}, std::back_inserter(files));
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+std::vector<std::uint8_t> Content(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// What the command prints is not this program's output.
+class Quiet {
+  public:
+    Quiet() : kept_(::dup(STDOUT_FILENO)) {
+        const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+        ::dup2(nowhere, STDOUT_FILENO);
+        ::close(nowhere);
+    }
+    ~Quiet() {
+        std::fflush(stdout);
+        ::dup2(kept_, STDOUT_FILENO);
+        ::close(kept_);
+    }
+    Quiet(const Quiet&) = delete;
+    Quiet& operator=(const Quiet&) = delete;
+
+  private:
+    const int kept_;
+};
+
+class KeptInputs : public ::testing::TestWithParam<Target> {};
+
+TEST_P(KeptInputs, BreakNothing) {
+    const auto files = KeptFor(GetParam());
+    ASSERT_FALSE(files.empty());
+    for (const fs::path& file : files) {
+        const auto content = Content(file);
+        // Named before the run, which may end the process.
+        std::fprintf(stderr, "%s\n", file.c_str());
+        const Quiet quiet;
+        GetParam().run(content);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, KeptInputs,
+                         ::testing::ValuesIn(hydrofacts::fuzz::HYDROFACTS_FUZZ_TARGETS().begin(),
+                                             hydrofacts::fuzz::HYDROFACTS_FUZZ_TARGETS().end()),
+                         [](const auto& target) { return std::string(target.param.name); });
+
+}  // namespace
