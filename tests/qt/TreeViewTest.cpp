@@ -120,6 +120,8 @@ class TreeViewOnQt : public testing::Test {
 TEST_F(TreeViewOnQt, OpensAndPicks) {
     EXPECT_EQ(Tree().topLevelItemCount(), 3);
     EXPECT_FALSE(Item("Steel").isExpanded());
+    // Rows are picked in their whole width, not only where there is text.
+    EXPECT_GE(Tree().visualItemRect(&Item("Steel")).right(), Tree().viewport()->width() - 1);
     ClickButton("Steel");
     EXPECT_TRUE(Item("Steel").isExpanded());
     EXPECT_THAT(dialog_.Model().TakeLog(),

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QIcon>
 #include <QMouseEvent>
+#include <QResizeEvent>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <unordered_map>
@@ -27,6 +28,7 @@ class Tree : public Control {
   protected:
     void Show() override;
     bool Mouse(QObject& watched, const QMouseEvent& event) override;
+    bool Other(QObject& watched, QEvent& event) override;
 
   private:
     void ShowRows();
@@ -153,6 +155,15 @@ bool Tree::TakeKey(const Key& key) {
     if (!key.Keypad() || !(plus || key.code == Qt::Key_Minus)) return false;
     PutKeyDown(Window(), plus ? VK_ADD : VK_SUBTRACT);
     return true;
+}
+
+// The rows are as wide as the tree, and wider where a text is.
+bool Tree::Other(QObject& watched, QEvent& event) {
+    if (&watched == widget_->viewport() && event.type() == QEvent::Resize) {
+        widget_->header()->setMinimumSectionSize(static_cast<QResizeEvent&>(event).size().width());
+        widget_->header()->resizeSections(QHeaderView::ResizeToContents);
+    }
+    return false;
 }
 
 bool Tree::Mouse(QObject& watched, const QMouseEvent& event) {
