@@ -16,7 +16,11 @@
 /// empty, and the next one scans again. If no thread can be had, the first dialog scans.
 ///
 /// A dialog that is opened while the scan runs waits for its end. Leaving the program, or unloading
-/// the library, ends the scan at the next table.
+/// the library, ends the scan at the next table. A scan that runs out of memory leaves the list
+/// empty.
+///
+/// May be called from any thread, and from several at once: one of them starts the scan that
+/// counts.
 HYDROFACTS_API void InitFluidTableCache(int state);
 
 #endif

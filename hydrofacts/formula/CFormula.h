@@ -55,6 +55,9 @@ enum FORMULASLOT : int {
 /// - 1: POLY
 /// - 2: (c0 + c1 (u / sinh u)² + c3 (v / cosh v)²) / 1000 with u = c2 / T, v = c4 / T
 /// - 3: 4.1868 (c0 + (c1 / 1000) T + (c2 / 1000000) T² + (c3 / 1000000000) T³)
+///
+/// Any number of threads may evaluate one formula, as long as none of them loads, assigns or clears
+/// it.
 class HYDROFACTS_API CFormula {
   public:
     /// Slot 0, empty.

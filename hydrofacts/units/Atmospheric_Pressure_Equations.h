@@ -4,7 +4,7 @@
 #include "hydrofacts/units/UnitValue.h"
 #include "win32/Export.h"
 
-/// The standard atmosphere.
+/// The standard atmosphere. It has no state: any thread may ask at any time.
 class HYDROFACTS_API Atmospheric_Pressure_Equations {
   public:
     /// The atmospheric pressure at an elevation above sea level (a length in any unit), in psi:

@@ -18,6 +18,9 @@ class CFluid;
 ///
 /// A viscosity may carry a private copy of its fluid, whose density joins cP and cSt; no other
 /// value has one, and a value without a fluid allocates nothing.
+///
+/// A value belongs to one thread at a time. It reads the units of Units::defaultUnits(), which are
+/// not to be changed while any thread converts values.
 template <int type, int n>
 class UnitValue {
   public:
