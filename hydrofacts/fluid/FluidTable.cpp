@@ -23,8 +23,9 @@ bool IsRecord(std::string_view line) {
 int CFluid::SetFluid(char* directory, const char* name, double temperature, double pressure) {
     const bool loaded = m_formulas[SLOT_LIQUID_SAT_PRES].m_type != 0;
     if (std::strcmp(m_name, name) != 0 || !loaded) {
+        const int usable = LoadFluidTable(directory, name);
         rstrncpy(m_name, name, sizeof m_name);
-        if (LoadFluidTable(directory, name) == 0) return 1;
+        if (usable == 0) return 1;
     }
     m_temperature = temperature;
     m_pressure = pressure;
@@ -33,10 +34,11 @@ int CFluid::SetFluid(char* directory, const char* name, double temperature, doub
 }
 
 int CFluid::SetFluid(char* directory, const char* name, double temperature) {
+    const int usable = LoadFluidTable(directory, name);
     rstrncpy(m_name, name, sizeof m_name);
     m_temperature = temperature;
     m_pressure = 0.0;
-    if (LoadFluidTable(directory, name) == 0) return 1;
+    if (usable == 0) return 1;
     m_state = FLUID_LIQUID;
     if (SetPointIsValid(m_temperature, m_pressure) == 0) m_state = FLUID_NONE;
     return 0;
@@ -57,6 +59,10 @@ int CFluid::LoadFluidTable(const char* directory, const char* name) {
 
 int CFluid::LoadFluidTable(const char* directory, const char* name, double highLimit,
                            double lowLimit) {
+    // Nothing but the reading of the file takes memory: if there is none, the fluid is the one it
+    // was.
+    const hydrofacts::TablePath path(directory, name, ".FTBL");
+    TextFile file(path.c_str());
     m_molecularWt = 0.0;
     m_criticalTemp = 0.0;
     m_criticalPres = 0.0;
@@ -66,8 +72,6 @@ int CFluid::LoadFluidTable(const char* directory, const char* name, double highL
     m_vaporMaxTemp = 0.0;
     m_vaporMaxPres = 0.0;
 
-    const hydrofacts::TablePath path(directory, name, ".FTBL");
-    TextFile file(path.c_str());
     const bool read = file.ValidFile() && ReadTable(file, highLimit, lowLimit);
     const bool complete = DropIncompleteSets();
     return read && complete ? 1 : 0;

@@ -112,11 +112,21 @@ TEST_F(MemoryFaults, FluidLoadsOnceThereIsMemory) {
     const auto load = [&] { fluid.SetFluid(path_.data(), "Plain", 300.0); };
     EXPECT_GT(FailEverywhere(load, [&] { EXPECT_EQ(fluid.GetFluidState(), FLUID_NONE); }), 0);
     EXPECT_EQ(fluid.GetFluidState(), FLUID_LIQUID);
+    std::string lighter = kFluidTable;
+    folder_.Write("Lighter.FTBL", lighter.replace(lighter.find("1200"), 4, "1000"));
+    const auto change = [&] { fluid.SetFluid(path_.data(), "Lighter", 300.0, 900.0); };
+    const auto isTheFormer = [&] {
+        EXPECT_STREQ(fluid.GetFluidName(), "Plain");
+        EXPECT_EQ(fluid.GetDensity(), 900.0);
+        EXPECT_EQ(fluid.GetCriticalTemp(), 400.0);
+    };
+    EXPECT_GT(FailEverywhere(change, isTheFormer), 0);
+    EXPECT_EQ(fluid.GetDensity(), 700.0);
     const auto copy = [&] {
         const CFluid copied(fluid);
         EXPECT_EQ(copied.GetViscosityValue().raw_value(), fluid.GetViscosity());
     };
-    EXPECT_GT(FailEverywhere(copy, [&] { EXPECT_EQ(fluid.GetDensity(), 900.0); }), 1);
+    EXPECT_GT(FailEverywhere(copy, [&] { EXPECT_EQ(fluid.GetDensity(), 700.0); }), 1);
 }
 
 TEST_F(MemoryFaults, PipeTableHasTheSizesThatFoundRoom) {
