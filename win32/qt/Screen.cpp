@@ -148,7 +148,12 @@ void Screen::Activated(HWND window) {
 // Windows tells a program of it while it asks for messages, as this does.
 void Screen::FollowActivation() {
     const HWND window = std::exchange(activated_, nullptr);
-    if (window == nullptr || !CanBeUsed(window) || GetActiveWindow() == window) return;
+    if (window == nullptr || GetActiveWindow() == window) return;
+    if (!CanBeUsed(window)) {
+        // It waits for the end of another one, which becomes Qt's active window again.
+        shownActive_ = nullptr;
+        return;
+    }
     shownActive_ = window;
     SetActiveWindow(window);
 }

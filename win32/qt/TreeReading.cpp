@@ -44,7 +44,7 @@ void Gather(HWND tree, HTREEITEM first, int level, std::vector<TreeRow>& rows) {
 // The rectangle of an item's text; false if it isn't on any row.
 bool TextPlace(HWND tree, HTREEITEM item, RECT& place) {
     // The message takes the item's handle from where it puts the rectangle.
-    std::memcpy(&place, &item, sizeof item);
+    std::memcpy(&place, &item, sizeof(UINT_PTR));
     return SendMessageA(tree, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place)) != FALSE;
 }
 
@@ -83,7 +83,9 @@ QImage ImageOf(HIMAGELIST list, int index) {
     QImage image(width, height, QImage::Format_ARGB32);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
-            const QRgb pixel = pixels[static_cast<std::size_t>(y * width + x)];
+            const QRgb pixel =
+                pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                       static_cast<std::size_t>(x)];
             image.setPixel(x, y, pixel == kGround ? pixel : pixel | kOpaque);
         }
     }
