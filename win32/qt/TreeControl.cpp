@@ -70,9 +70,9 @@ void Tree::Show() {
 }
 
 void Tree::ShowImages() {
+    const LRESULT list = SendMessageA(Window(), TVM_GETIMAGELIST, TVSIL_NORMAL, 0);
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the message gives a handle as a number
-    auto* images =
-        reinterpret_cast<HIMAGELIST>(SendMessageA(Window(), TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
+    auto* images = reinterpret_cast<HIMAGELIST>(list);
     const auto count =
         static_cast<std::size_t>(images == nullptr ? 0 : ImageList_GetImageCount(images));
     if (images == images_ && count == icons_.size()) return;
@@ -124,9 +124,9 @@ void Tree::ShowRows() {
 
 // The selected item may have an image of its own.
 void Tree::ShowSelection() {
+    const LRESULT item = SendMessageA(Window(), TVM_GETNEXTITEM, TVGN_CARET, 0);
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the message gives a handle as a number
-    auto* caret =
-        reinterpret_cast<HTREEITEM>(SendMessageA(Window(), TVM_GETNEXTITEM, TVGN_CARET, 0));
+    auto* caret = reinterpret_cast<HTREEITEM>(item);
     for (const TreeRow& row : rows_) {
         if (row.image == row.selectedImage || (row.item != caret && row.item != selected_))
             continue;
