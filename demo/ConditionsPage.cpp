@@ -16,7 +16,7 @@ win32::DialogBuilder ConditionsPage::Form() const {
     Rows(form, 6, 45)
         .Add(kTemperatureLabel, kTemperature, kTemperatureUnit)
         .Add(kPressureLabel, kPressure, kPressureUnit);
-    form.GroupBox(kPropertyGroup, "", {0, 84, 172, 112});
+    form.GroupBox(kPropertyGroup, "", {0, 84, 172, 106});
     Rows(form, 6, 96)
         .Add(kDensityLabel, kDensity, kDensityUnit, ES_READONLY)
         .Add(kViscosityLabel, kViscosity, kViscosityUnit, ES_READONLY)
@@ -24,7 +24,7 @@ win32::DialogBuilder ConditionsPage::Form() const {
         .Add(kCriticalTemperatureLabel, kCriticalTemperature, kCriticalTemperatureUnit, ES_READONLY)
         .Add(kHeatRatioLabel, kHeatRatio, 0, ES_READONLY)
         .Add(kMolarMassLabel, kMolarMass, kMolarMassUnit, ES_READONLY);
-    form.Button(IDOK, "", {102, 202, 70, 14}, WS_GROUP);
+    form.Button(IDOK, "", {102, 196, 70, 14}, WS_GROUP);
     form.Static(kFluidNote, "", {0, 253, 498, 9}, SS_NOPREFIX);
     return form;
 }

@@ -33,7 +33,7 @@ win32::DialogBuilder FluidPage::Form() const {
     form.GroupBox(kStateGroup, "", {132, 50, 172, 27});
     form.RadioButton(kLiquid, "", {138, 61, 78, 10}, kFirstOfGroup);
     form.RadioButton(kVapor, "", {220, 61, 78, 10});
-    form.GroupBox(kPropertyGroup, "", {132, 81, 172, 141});
+    form.GroupBox(kPropertyGroup, "", {132, 81, 172, 120});
     Rows(form, 138, 93)
         .Add(kDensityLabel, kDensity, kDensityUnit)
         .Add(kViscosityLabel, kViscosity, kViscosityUnit)
@@ -42,7 +42,7 @@ win32::DialogBuilder FluidPage::Form() const {
         .Add(kCriticalTemperatureLabel, kCriticalTemperature, kCriticalTemperatureUnit)
         .Add(kHeatRatioLabel, kHeatRatio, 0)
         .Add(kMolarMassLabel, kMolarMass, kMolarMassUnit);
-    form.Button(IDOK, "", {234, 235, 70, 14}, WS_GROUP);
+    form.Button(IDOK, "", {234, 207, 70, 14}, WS_GROUP);
 
     form.GroupBox(kPlotGroup, "", {312, 0, 186, 249});
     form.ComboBox(kPlotProperty, {318, 11, 120, 90}, WS_VSCROLL);

@@ -13,7 +13,7 @@ win32::DialogBuilder TemperaturePage::Form() const {
     form.GroupBox(kStateGroup, "", {132, 35, 172, 27});
     form.RadioButton(kLiquid, "", {138, 46, 78, 10}, WS_GROUP | WS_TABSTOP);
     form.RadioButton(kVapor, "", {220, 46, 78, 10});
-    form.GroupBox(kPropertyGroup, "", {132, 66, 172, 112});
+    form.GroupBox(kPropertyGroup, "", {132, 66, 172, 106});
     Rows(form, 138, 78)
         .Add(kDensityLabel, kDensity, kDensityUnit, ES_READONLY)
         .Add(kViscosityLabel, kViscosity, kViscosityUnit, ES_READONLY)
