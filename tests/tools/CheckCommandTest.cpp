@@ -1,3 +1,8 @@
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 #include "tests/tools/SampleTables.h"
 
 namespace {
@@ -71,5 +76,16 @@ TEST_F(CheckCommand, RefusesWhatIsNoTable) {
     ExpectRefused("check", "FILE");
     EXPECT_THAT(Run("check --help").out, HasSubstr("Exit status:"));
 }
+
+#ifndef _WIN32
+TEST_F(CheckCommand, NeitherWaitsForAPipeNorReadsATerabyte) {
+    ASSERT_EQ(::mkfifo(m_folder.Path("tables/Pipe.FTBL").c_str(), 0666), 0);
+    Write("Long.FTBL", "");
+    ASSERT_EQ(::truncate(m_folder.Path("tables/Long.FTBL").c_str(), off_t{1} << 40), 0);
+    for (const char* name : {"Pipe.FTBL", "Long.FTBL"}) {
+        ExpectRefused("check" + Table(name), std::string(name) + ": the file can't be read");
+    }
+}
+#endif
 
 }  // namespace
