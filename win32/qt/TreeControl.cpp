@@ -124,9 +124,9 @@ void Tree::ShowRows() {
 
 // The selected item may have an image of its own.
 void Tree::ShowSelection() {
-    const LRESULT item = SendMessageA(Window(), TVM_GETNEXTITEM, TVGN_CARET, 0);
+    const LRESULT selected = SendMessageA(Window(), TVM_GETNEXTITEM, TVGN_CARET, 0);
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the message gives a handle as a number
-    auto* caret = reinterpret_cast<HTREEITEM>(item);
+    auto* caret = reinterpret_cast<HTREEITEM>(selected);
     for (const TreeRow& row : rows_) {
         if (row.image == row.selectedImage || (row.item != caret && row.item != selected_))
             continue;
