@@ -1,8 +1,8 @@
 #ifndef WIN32_QT_QTVIEW_H
 #define WIN32_QT_QTVIEW_H
 
-// The windows of a thread, shown with Qt Widgets. A program that includes hydrofacts/hydrofacts.h as
-// well is compiled with QT_NO_KEYWORDS: `signals`, which Qt makes a macro, is a namespace there.
+// The windows of a thread, shown with Qt Widgets. A program that includes hydrofacts/hydrofacts.h
+// as well is compiled with QT_NO_KEYWORDS: `signals`, which Qt makes a macro, is a namespace there.
 
 #include <functional>
 #include <memory>
