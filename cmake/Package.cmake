@@ -4,7 +4,7 @@
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/hydrofacts)
 install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${doc_dir})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${doc_dir}
-        FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.?TBL" PATTERN "*.DAT" PATTERN "*.csv")
+        FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.png" PATTERN "*.?TBL" PATTERN "*.DAT" PATTERN "*.csv")
 
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_PACKAGE_NAME hydrofacts)
