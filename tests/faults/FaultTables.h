@@ -1,6 +1,11 @@
 #ifndef HYDROFACTS_TESTS_FAULTS_FAULTTABLES_H
 #define HYDROFACTS_TESTS_FAULTS_FAULTTABLES_H
 
+#include <mutex>
+#include <string>
+
+#include "hydrofacts/dialogs/FluidNames.h"
+#include "hydrofacts/frame/Module.h"
 #include "tests/support/TableText.h"
 
 // A table of each kind, small enough to be seen at a glance.
@@ -21,5 +26,12 @@ inline const std::string kValveTable = TableText(
     "Z|Bend|\"Elbow\"|9|0.5|2|50|4\nZ|Bend|\"Elbow\"|9|0.4|6|150|4\n");
 
 inline constexpr int kFormulas[] = {1, 9, 0};
+
+/// The list of fluid tables holds for the whole process; here it begins anew.
+inline void ForgetFluidTables() {
+    const auto names = hydrofacts::FluidTableCache();
+    const std::lock_guard lock(names->mutex);
+    names->text.clear();
+}
 
 #endif

@@ -12,9 +12,7 @@
 #include <string>
 
 #include "hydrofacts/dialogs/CFluidScan.h"
-#include "hydrofacts/dialogs/FluidNames.h"
 #include "hydrofacts/fluid/CFluid.h"
-#include "hydrofacts/frame/Module.h"
 #include "hydrofacts/pipe/CPipeTableList.h"
 #include "hydrofacts/valve/CValveTable.h"
 #include "quillbase/Directory.h"
@@ -26,8 +24,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string Scan(const std::string& folder) {
-    const auto names = hydrofacts::FluidTableCache();
-    names->text.clear();
+    ForgetFluidTables();
     CFluidScan().LoadFluidNames(folder.c_str(), FLUID_NONE, 0.0, 0.0);
     return hydrofacts::FluidNamesFound();
 }

@@ -13,9 +13,7 @@
 #include <string>
 
 #include "hydrofacts/dialogs/CFluidScan.h"
-#include "hydrofacts/dialogs/FluidNames.h"
 #include "hydrofacts/dialogs/FluidTableCache.h"
-#include "hydrofacts/frame/Module.h"
 #include "hydrofacts/pipe/CPipeTableList.h"
 #include "hydrofacts/valve/CValveTable.h"
 #include "quillbase/CAtmPressure.h"
@@ -208,20 +206,18 @@ TEST_F(MemoryFaults, DirectoryStaysAsItWas) {
 }
 
 TEST_F(MemoryFaults, ScanThatFindsNoRoomLeavesNoNames) {
-    const auto names = hydrofacts::FluidTableCache();
-    names->text.clear();
+    ForgetFluidTables();
     const auto scan = [&] { CFluidScan().LoadFluidNames(path_.c_str(), FLUID_NONE, 0.0, 0.0); };
-    EXPECT_GT(FailEverywhere(scan, [&] { EXPECT_EQ(names->text, ""); }), 2);
-    EXPECT_EQ(names->text, "Plain\t");
-    names->text.clear();
+    EXPECT_GT(FailEverywhere(scan, [&] { EXPECT_EQ(hydrofacts::FluidNamesFound(), ""); }), 2);
+    EXPECT_EQ(hydrofacts::FluidNamesFound(), "Plain\t");
+    ForgetFluidTables();
 }
 
 // On its own thread nobody could catch what the scan throws.
 TEST_F(MemoryFaults, ScanInTheBackgroundEndsWithoutNames) {
     constexpr int kMostAllocations = 20;
-    const auto names = hydrofacts::FluidTableCache();
     for (int allowed = 0; allowed < kMostAllocations; ++allowed) {
-        names->text.clear();
+        ForgetFluidTables();
         try {
             const Refusing refusing(allowed);
             InitFluidTableCache(FLUID_NONE);
@@ -235,7 +231,7 @@ TEST_F(MemoryFaults, ScanInTheBackgroundEndsWithoutNames) {
     InitFluidTableCache(FLUID_NONE);
     for (int i = 0; i < 1000 && hydrofacts::FluidNamesFound().empty(); ++i) ::usleep(10000);
     EXPECT_EQ(hydrofacts::FluidNamesFound(), "Plain\t");
-    names->text.clear();
+    ForgetFluidTables();
 }
 
 }  // namespace

@@ -11,10 +11,8 @@
 #include <vector>
 
 #include "hydrofacts/dialogs/CFluidScan.h"
-#include "hydrofacts/dialogs/FluidNames.h"
 #include "hydrofacts/dialogs/FluidTableCache.h"
 #include "hydrofacts/frame/Language.h"
-#include "hydrofacts/frame/Module.h"
 #include "hydrofacts/pipe/CPipeTableList.h"
 #include "hydrofacts/valve/CValveTable.h"
 #include "quillbase/Directory.h"
@@ -94,7 +92,7 @@ class SharedServices : public ::testing::Test {
         folder_.Write("Standard.VTBL", kValveTable);
         for (int i = 0; i < 100; ++i) folder_.Write(std::to_string(i) + ".FTBL", kFluidTable);
         SetDirectory(DIR_TABLES, folder_.Path().c_str());
-        hydrofacts::FluidTableCache()->text.clear();
+        ForgetFluidTables();
     }
     ~SharedServices() override {
         SetDirectory(DIR_TABLES, nullptr);
