@@ -28,7 +28,7 @@ function relinked(line,    done, text, target, parts) {
         sub(/\]\(.*/, "", text)
         sub(/^\[/, "", text)
         split(target, parts, "#")
-        if (target ~ /^https?:/ || target ~ /\.svg$/) {
+        if (target ~ /^https?:/ || target ~ /\.(svg|png)$/) {
             done = done "[" text "](" target ")"
         } else if (target ~ /#/) {
             done = done "[" text "](#" (parts[1] == "" ? here : page(parts[1])) "-" parts[2] ")"
