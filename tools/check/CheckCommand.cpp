@@ -132,7 +132,7 @@ std::string Summary(const Report& report) {
         if (!tables.empty()) tables += ", ";
         tables += Counted(report.tables[kind], kKindNames[kind]);
     }
-    if (tables.empty()) tables = "no table";
+    if (tables.empty()) return {};  // none could be read, which has been said
     if (report.errors + report.warnings == 0) return "checked " + tables + ": no findings\n";
     return fmt::format("checked {}: {}, {}\n", tables, Counted(report.errors, "error"),
                        Counted(report.warnings, "warning"));
