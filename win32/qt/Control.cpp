@@ -63,7 +63,7 @@ void Control::Watch(QObject& widget) {
 
 void Control::Release() {
     for (const auto& widget : watched_) {
-        if (widget) widget->removeEventFilter(this);
+        if (widget != nullptr) widget->removeEventFilter(this);
     }
     Widget().blockSignals(true);
 }
