@@ -363,8 +363,8 @@ class PropertyCurve::Painting {
         for (const Curve& curve : curve_.curves_) {
             PlotLine line;
             for (const Point& point : curve) line.points.push_back({X(point.x), Y(point.y)});
-            const auto rest = std::ranges::unique(line.points, same);
-            line.points.erase(rest.begin(), rest.end());
+            const auto rest = std::unique(line.points.begin(), line.points.end(), same);
+            line.points.erase(rest, line.points.end());
             if (line.points.size() > 1) picture_.curves.push_back(std::move(line));
         }
         for (const Point& mark : curve_.marks_) picture_.marks.push_back({X(mark.x), Y(mark.y)});

@@ -39,6 +39,8 @@ class OpenFluid : public CFluid {
         const double theirs[] = {other.m_molecularWt,   other.m_criticalTemp,  other.m_criticalPres,
                                  other.m_liquidMinTemp, other.m_liquidMaxTemp, other.m_vaporMinTemp,
                                  other.m_vaporMaxTemp,  other.m_vaporMaxPres};
+        // To the last bit, not-a-number too.
+        // NOLINTBEGIN(bugprone-suspicious-memory-comparison)
         return std::memcmp(mine, theirs, sizeof mine) == 0 &&
                std::equal(std::begin(m_formulas), std::end(m_formulas),
                           std::begin(other.m_formulas), [](const CFormula& a, const CFormula& b) {
@@ -46,6 +48,7 @@ class OpenFluid : public CFluid {
                                      std::memcmp(a.m_coefficients, b.m_coefficients,
                                                  sizeof a.m_coefficients) == 0;
                           });
+        // NOLINTEND(bugprone-suspicious-memory-comparison)
     }
 };
 

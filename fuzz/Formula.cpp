@@ -22,11 +22,12 @@ void formula(Bytes bytes) {
     Require(read.m_slot == slot, "a formula takes the slot that is wanted");
     const auto again = ExactCopy(input.Text());
     CFormula second;
-    Require(
-        second.LoadFormula(slot, again.get(), tc, pc) == refused && second.m_type == read.m_type &&
-            std::memcmp(second.m_coefficients, read.m_coefficients, sizeof read.m_coefficients) ==
-                0,
-        "a record is read the same twice");
+    const int secondRefused = second.LoadFormula(slot, again.get(), tc, pc);
+    // To the last bit, not-a-number too.
+    const bool same =  // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison)
+        std::memcmp(second.m_coefficients, read.m_coefficients, sizeof read.m_coefficients) == 0;
+    Require(secondRefused == refused && second.m_type == read.m_type && same,
+            "a record is read the same twice");
     if (slot != SLOT_VAPOR_DENSITY && read.m_type == 0) {
         for (const double c : read.m_coefficients) Require(c == 0.0, "an absent formula is empty");
         Require(read.CalcResult(t, p, 18.0, tc, pc) == 0.0, "and gives nothing");

@@ -121,7 +121,7 @@ TEST_F(MemoryFaults, FluidLoadsOnceThereIsMemory) {
     EXPECT_GT(FailEverywhere(change, isTheFormer), 0);
     EXPECT_EQ(fluid.GetDensity(), 700.0);
     const auto copy = [&] {
-        const CFluid copied(fluid);
+        const CFluid copied(fluid);  // NOLINT(performance-unnecessary-copy-initialization): on test
         EXPECT_EQ(copied.GetViscosityValue().raw_value(), fluid.GetViscosity());
     };
     EXPECT_GT(FailEverywhere(copy, [&] { EXPECT_EQ(fluid.GetDensity(), 700.0); }), 1);
@@ -146,6 +146,7 @@ TEST_F(MemoryFaults, PipeTableHasTheSizesThatFoundRoom) {
     EXPECT_EQ(FailEverywhere(assign, [&] { EXPECT_LT(copy.Sizes(), 3); }), 3);
     EXPECT_EQ(copy.Sizes(), 3);
     EXPECT_EQ(pipe.Sizes(), 3);
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): it is on test
     EXPECT_EQ(FailEverywhere([&] { const OpenPipe copied(pipe); }, [] {}), 3);
 }
 
