@@ -1,7 +1,8 @@
 # shellcheck shell=bash
 # To be sourced: a Wine of the build's own, without a display. One server stays up while the tests run,
 # since starting it takes longer than most test programs; it goes when the script does.
-export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+# File names have umlauts in some tests, which Wine can't write in the locale C.
+export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml= LC_ALL=C.UTF-8
 unset DISPLAY
 
 stop_wine() {

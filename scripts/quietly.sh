@@ -1,11 +1,12 @@
 # shellcheck shell=bash
 # To be sourced. quietly LOG COMMAND... runs a command with its output in build/logs/LOG.log and
-# shows the end of that output only if the command fails.
+# shows the end of that output only if the command fails. The command has nothing to read: there are programs
+# that fail where standard input is closed.
 quietly() {
     local log=build/logs/$1.log status=0
     shift
     mkdir -p build/logs
-    "$@" >"$log" 2>&1 || status=$?
+    "$@" </dev/null >"$log" 2>&1 || status=$?
     if [[ $status -ne 0 ]]; then
         tail -n 100 "$log" >&2
         echo "failed ($status): $*; all that it printed is in $log" >&2
