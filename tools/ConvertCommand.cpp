@@ -1,6 +1,7 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <optional>
 
 #include "tools/Conversions.h"
@@ -171,21 +172,20 @@ void ShowConversion(const Options& options, const ConvertOptions& own) {
 
 }  // namespace
 
-void AddConvertCommand(CLI::App& app, Options& options) {
+void AddConvertCommand(Command& program, Options& options) {
     const auto own = std::make_shared<ConvertOptions>();
-    CLI::App* const command = app.add_subcommand("convert", "Convert a number between two units");
-    command->add_option("VALUE", own->value, "The number")->type_name("")->required();
-    command->add_option("FROM", own->from, "Its unit")->type_name("")->required();
-    command->add_option("TO", own->to, "The unit wanted")->type_name("")->required();
-    command->add_option("--measure", own->measure, "What is measured; see `hydrofacts units`")
-        ->type_name("MEASURE");
-    command->add_option("--fluid", own->fluid, "The fluid whose density joins the units")
-        ->type_name("NAME");
-    AddSetPointOptions(*command, own->setPoint, false);
-    AddTablesOption(*command, options);
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, own] { ShowConversion(options, *own); });
+    Command command = program.AddCommand("convert", "Convert a number between two units");
+    command.AddWord("VALUE", own->value, "The number").Require();
+    command.AddWord("FROM", own->from, "Its unit").Require();
+    command.AddWord("TO", own->to, "The unit wanted").Require();
+    command.AddOption("--measure", own->measure, "MEASURE",
+                      "What is measured; see `hydrofacts units`");
+    command.AddOption("--fluid", own->fluid, "NAME", "The fluid whose density joins the units");
+    AddSetPointOptions(command, own->setPoint, false);
+    AddTablesOption(command, options);
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, own] { ShowConversion(options, *own); });
 }
 
 }  // namespace hydrofacts::command

@@ -1,7 +1,8 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <cmath>
 #include <memory>
+#include <nlohmann/json.hpp>
 
 #include "tools/Failure.h"
 #include "tools/Measures.h"
@@ -74,21 +75,16 @@ void ShowElevation(const Options& options, const ElevationOptions& own) {
 
 }  // namespace
 
-void AddElevationCommand(CLI::App& app, Options& options) {
+void AddElevationCommand(Command& program, Options& options) {
     const auto own = std::make_shared<ElevationOptions>();
-    CLI::App* const command = app.add_subcommand(
+    Command command = program.AddCommand(
         "elevation", "Show the pressure of the standard atmosphere at an elevation");
-    command->add_option("VALUE", own->value, "The elevation above sea level")
-        ->type_name("")
-        ->required();
-    command->add_option("UNIT", own->unit, "Its unit of length, such as ft or m")
-        ->type_name("")
-        ->required();
-    command->add_option("--pressure-unit", own->pressureUnit, "Unit of the pressure")
-        ->type_name("U");
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, own] { ShowElevation(options, *own); });
+    command.AddWord("VALUE", own->value, "The elevation above sea level").Require();
+    command.AddWord("UNIT", own->unit, "Its unit of length, such as ft or m").Require();
+    command.AddOption("--pressure-unit", own->pressureUnit, "U", "Unit of the pressure");
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, own] { ShowElevation(options, *own); });
 }
 
 }  // namespace hydrofacts::command

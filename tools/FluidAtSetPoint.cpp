@@ -1,6 +1,6 @@
 #include "tools/FluidAtSetPoint.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include "tools/Encoding.h"
 #include "tools/Failure.h"

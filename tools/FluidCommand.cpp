@@ -1,6 +1,7 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <memory>
+#include <nlohmann/json.hpp>
 
 #include "tools/Encoding.h"
 #include "tools/Failure.h"
@@ -148,16 +149,15 @@ struct FluidOptions {
 
 }  // namespace
 
-void AddFluidCommand(CLI::App& app, Options& options) {
+void AddFluidCommand(Command& program, Options& options) {
     const auto own = std::make_shared<FluidOptions>();
-    CLI::App* const command =
-        app.add_subcommand("fluid", "Show a fluid's properties at a set point");
-    command->add_option("NAME", own->name, "The fluid, in any case")->type_name("")->required();
-    AddSetPointOptions(*command, own->setPoint, true);
-    AddTablesOption(*command, options);
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, own] { ShowFluid(options, own->name, own->setPoint); });
+    Command command = program.AddCommand("fluid", "Show a fluid's properties at a set point");
+    command.AddWord("NAME", own->name, "The fluid, in any case").Require();
+    AddSetPointOptions(command, own->setPoint, true);
+    AddTablesOption(command, options);
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, own] { ShowFluid(options, own->name, own->setPoint); });
 }
 
 }  // namespace hydrofacts::command

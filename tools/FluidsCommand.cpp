@@ -1,6 +1,7 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <memory>
+#include <nlohmann/json.hpp>
 
 #include "tools/Names.h"
 #include "tools/Output.h"
@@ -85,16 +86,14 @@ void ListFluids(const Options& options, const std::string& state) {
 
 }  // namespace
 
-void AddFluidsCommand(CLI::App& app, Options& options) {
+void AddFluidsCommand(Command& program, Options& options) {
     const auto state = std::make_shared<std::string>();
-    CLI::App* const command = app.add_subcommand("fluids", "List the installed fluids");
-    command->add_option("--state", *state, "Only fluids that have this state")
-        ->type_name("liquid|vapor")
-        ->check(CLI::IsMember({"liquid", "vapor"}, CLI::ignore_case).description(""));
-    AddTablesOption(*command, options);
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, state] { ListFluids(options, *state); });
+    Command command = program.AddCommand("fluids", "List the installed fluids");
+    command.AddChoice("--state", *state, {"liquid", "vapor"}, "Only fluids that have this state");
+    AddTablesOption(command, options);
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, state] { ListFluids(options, *state); });
 }
 
 }  // namespace hydrofacts::command

@@ -1,9 +1,10 @@
 #include "tools/Output.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <nlohmann/json.hpp>
 
 namespace hydrofacts::command {
 namespace {

@@ -1,7 +1,7 @@
 #ifndef TOOLS_OUTPUT_H
 #define TOOLS_OUTPUT_H
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
 #include <vector>

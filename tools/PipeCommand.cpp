@@ -1,7 +1,8 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <cmath>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <numbers>
 #include <optional>
 
@@ -257,27 +258,22 @@ void ShowPipe(const Options& options, const PipeOptions& own) {
 
 }  // namespace
 
-void AddPipeCommand(CLI::App& app, Options& options) {
+void AddPipeCommand(Command& program, Options& options) {
     const auto own = std::make_shared<PipeOptions>();
-    CLI::App* const command =
-        app.add_subcommand("pipe", "Show a pipe material, one of its schedules, or a size");
-    const auto positional = [&](const char* name, std::string& text, const char* help) {
-        return command->add_option(name, text, help)->type_name("");
-    };
-    positional("MATERIAL", own->material, "The material, in any case")->required();
-    positional("SCHEDULE", own->schedule, "Its schedule, in any case");
-    positional("SIZE", own->size, "A nominal size of the schedule");
-    command
-        ->add_option("--diameter", own->diameter,
-                     "The size whose inside diameter is nearest to D,\nthe larger of two")
-        ->type_name("D");
-    command->add_flag("--next", own->next, "The size above SIZE, which need not be one");
-    command->add_flag("--previous", own->previous, "The size below SIZE, which need not be one");
-    AddLengthUnitsOption(*command, own->units);
-    AddTablesOption(*command, options);
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, own] { ShowPipe(options, *own); });
+    Command command =
+        program.AddCommand("pipe", "Show a pipe material, one of its schedules, or a size");
+    command.AddWord("MATERIAL", own->material, "The material, in any case").Require();
+    command.AddWord("SCHEDULE", own->schedule, "Its schedule, in any case");
+    command.AddWord("SIZE", own->size, "A nominal size of the schedule");
+    command.AddOption("--diameter", own->diameter, "D",
+                      "The size whose inside diameter is nearest to D,\nthe larger of two");
+    command.AddFlag("--next", own->next, "The size above SIZE, which need not be one");
+    command.AddFlag("--previous", own->previous, "The size below SIZE, which need not be one");
+    AddLengthUnitsOption(command, own->units);
+    AddTablesOption(command, options);
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, own] { ShowPipe(options, *own); });
 }
 
 }  // namespace hydrofacts::command

@@ -1,6 +1,7 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <memory>
+#include <nlohmann/json.hpp>
 
 #include "tools/Lengths.h"
 #include "tools/Numbers.h"
@@ -74,14 +75,14 @@ void ListPipes(const Options& options, HF_UNITS system) {
 
 }  // namespace
 
-void AddPipesCommand(CLI::App& app, Options& options) {
+void AddPipesCommand(Command& program, Options& options) {
     const auto system = std::make_shared<std::string>();
-    CLI::App* const command = app.add_subcommand("pipes", "List the installed pipe materials");
-    AddLengthUnitsOption(*command, *system);
-    AddTablesOption(*command, options);
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, system] { ListPipes(options, SystemNamed(*system)); });
+    Command command = program.AddCommand("pipes", "List the installed pipe materials");
+    AddLengthUnitsOption(command, *system);
+    AddTablesOption(command, options);
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, system] { ListPipes(options, SystemNamed(*system)); });
 }
 
 }  // namespace hydrofacts::command

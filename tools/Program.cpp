@@ -1,6 +1,6 @@
 #include "tools/Program.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -28,19 +28,19 @@ Exit status:
   2  refused: the arguments or the tables can't be used
   3  a fluid has no state at the set point, or an elevation is outside the standard atmosphere)";
 
-void AddCommands(CLI::App& app, Options& options) {
-    AddFluidsCommand(app, options);
-    AddFluidCommand(app, options);
-    AddTableCommand(app, options);
-    AddPlotCommand(app, options);
-    AddPipesCommand(app, options);
-    AddPipeCommand(app, options);
-    AddValvesCommand(app, options);
-    AddValveCommand(app, options);
-    AddConvertCommand(app, options);
-    AddUnitsCommand(app, options);
-    AddElevationCommand(app, options);
-    AddCheckCommand(app, options);
+void AddCommands(Command& program, Options& options) {
+    AddFluidsCommand(program, options);
+    AddFluidCommand(program, options);
+    AddTableCommand(program, options);
+    AddPlotCommand(program, options);
+    AddPipesCommand(program, options);
+    AddPipeCommand(program, options);
+    AddValvesCommand(program, options);
+    AddValveCommand(program, options);
+    AddConvertCommand(program, options);
+    AddUnitsCommand(program, options);
+    AddElevationCommand(program, options);
+    AddCheckCommand(program, options);
 }
 
 // "-.5" looks like an option to the parser, "-0.5" like the number that it is.
@@ -62,10 +62,9 @@ std::vector<std::string>::const_iterator CommandIn(const std::vector<std::string
 }
 
 // The parser says only that a subcommand is missing when its name is misspelt.
-void RequireKnownCommand(const CLI::App& app, const std::vector<std::string>& arguments) {
+void RequireKnownCommand(const ArgumentParser& parser, const std::vector<std::string>& arguments) {
     const auto word = CommandIn(arguments);
-    std::vector<std::string> names;
-    for (const CLI::App* command : app.get_subcommands({})) names.push_back(command->get_name());
+    const std::vector<std::string> names = parser.CommandNames();
     if (word == arguments.end() || std::find(names.begin(), names.end(), *word) != names.end()) {
         return;
     }
@@ -75,22 +74,16 @@ void RequireKnownCommand(const CLI::App& app, const std::vector<std::string>& ar
                                               : "did you mean " + JoinNames(nearest, "or") + "?"));
 }
 
-int Parse(CLI::App& app, std::vector<std::string> arguments) {
+int Parse(ArgumentParser& parser, std::vector<std::string> arguments) {
     if (arguments.empty()) {
-        fmt::print(stderr, "{}", app.help());
+        fmt::print(stderr, "{}", parser.Help());
         return kRefused;
     }
     try {
         RewriteNegativeNumbers(arguments);
-        RequireKnownCommand(app, arguments);
-        std::reverse(arguments.begin(), arguments.end());  // the order that the parser wants
-        app.parse(arguments);
+        RequireKnownCommand(parser, arguments);
+        parser.Parse(std::move(arguments));
         return kDone;
-    } catch (const CLI::ParseError& error) {
-        // Help and version come this way too.
-        if (error.get_exit_code() == 0) return app.exit(error);
-        PrintError(error.what());
-        return kRefused;
     } catch (const Failure& failure) {
         PrintError(failure.what());
         return failure.Status();
@@ -99,69 +92,70 @@ int Parse(CLI::App& app, std::vector<std::string> arguments) {
 
 }  // namespace
 
-void AddTablesOption(CLI::App& app, Options& options) {
-    app.add_option("--tables", options.tables,
-                   "Directory of the table files, if not the installed one")
-        ->type_name("DIR");
+void AddTablesOption(Command& command, Options& options) {
+    command.AddOption("--tables", options.tables, "DIR",
+                      "Directory of the table files, if not the installed one");
 }
 
-void AddJsonOption(CLI::App& app, Options& options) {
-    app.add_flag("--json", options.json, "Print JSON, for programs");
+void AddJsonOption(Command& command, Options& options) {
+    command.AddFlag("--json", options.json, "Print JSON, for programs");
 }
 
-void AddLengthUnitsOption(CLI::App& app, std::string& system) {
-    app.add_option("--units", system, "us: lengths in inches, the default; metric: in millimetres")
-        ->type_name("us|metric")
-        ->check(CLI::IsMember({"us", "metric"}, CLI::ignore_case).description(""));
+void AddLengthUnitsOption(Command& command, std::string& system) {
+    command.AddChoice("--units", system, {"us", "metric"},
+                      "us: lengths in inches, the default; metric: in millimetres");
 }
 
-void AddUnitOptions(CLI::App& app, UnitOptions& units) {
-    const auto add = [&](const char* name, std::string& text, const char* type, const char* help) {
-        return app.add_option(name, text, help)->type_name(type)->group("Units");
-    };
-    add("--units", units.system, "us|metric",
-        "us: \u00B0F, psi, lb/ft\u00B3; metric: \u00B0C, bar, kg/m\u00B3. The default\n"
-        "is metric with a temperature unit of \u00B0C or K, else us")
-        ->check(CLI::IsMember({"us", "metric"}, CLI::ignore_case).description(""));
-    add("--temperature-unit", units.temperatureUnit, "U",
-        "\u00B0F, \u00B0R, \u00B0C, K; plain F or degC will do");
-    add("--pressure-unit", units.pressureUnit, "U",
-        "psi, kPa, bar, in H2O, in Hg, mm H2O, mm Hg, Pa");
+void AddUnitOptions(Command& command, UnitOptions& units) {
+    command
+        .AddChoice("--units", units.system, {"us", "metric"},
+                   "us: \u00B0F, psi, lb/ft\u00B3; metric: \u00B0C, bar, kg/m\u00B3. The default\n"
+                   "is metric with a temperature unit of \u00B0C or K, else us")
+        .Under("Units");
+    command
+        .AddOption("--temperature-unit", units.temperatureUnit, "U",
+                   "\u00B0F, \u00B0R, \u00B0C, K; plain F or degC will do")
+        .Under("Units");
+    command
+        .AddOption("--pressure-unit", units.pressureUnit, "U",
+                   "psi, kPa, bar, in H2O, in Hg, mm H2O, mm Hg, Pa")
+        .Under("Units");
 }
 
-void AddPressureOptions(CLI::App& app, PressureOptions& pressures) {
-    app.add_flag("--absolute", pressures.absolute, "PRES is absolute")->group("Set point");
-    app.add_option("--atmosphere", pressures.atmosphere,
+void AddPressureOptions(Command& command, PressureOptions& pressures) {
+    command.AddFlag("--absolute", pressures.absolute, "PRES is absolute").Under("Set point");
+    command
+        .AddOption("--atmosphere", pressures.atmosphere, "X",
                    "Atmospheric pressure, absolute, in the unit of PRES;\nstandard: 101.325 kPa")
-        ->type_name("X")
-        ->group("Set point");
+        .Under("Set point");
 }
 
-void AddSetPointOptions(CLI::App& app, SetPointOptions& setPoint, bool required) {
-    const auto add = [&](const char* name, std::string& text, const char* type, const char* help) {
-        app.add_option(name, text, help)->type_name(type)->group("Set point")->required(required);
-    };
-    add("-t,--temperature", setPoint.temperature, "TEMP", "Temperature");
-    add("-p,--pressure", setPoint.pressure, "PRES", "Pressure, gauge unless --absolute is given");
-    AddPressureOptions(app, setPoint);
-    AddUnitOptions(app, setPoint);
+void AddSetPointOptions(Command& command, SetPointOptions& setPoint, bool required) {
+    command.AddOption("-t,--temperature", setPoint.temperature, "TEMP", "Temperature")
+        .Under("Set point")
+        .Require(required);
+    command
+        .AddOption("-p,--pressure", setPoint.pressure, "PRES",
+                   "Pressure, gauge unless --absolute is given")
+        .Under("Set point")
+        .Require(required);
+    AddPressureOptions(command, setPoint);
+    AddUnitOptions(command, setPoint);
 }
 
 int Run(std::vector<std::string> arguments) {
-    CLI::App app(
+    ArgumentParser parser(
+        "hydrofacts", "hydrofacts " HYDROFACTS_VERSION,
         "Fluid properties, pipe and valve data, unit conversion and the standard atmosphere for\n"
-        "systems of pipes.",
-        "hydrofacts");
-    app.allow_windows_style_options(false);  // "/tables" is a path on every platform
+        "systems of pipes.");
+    Command program = parser.Program();
     Options options;
-    app.set_version_flag("--version", "hydrofacts " HYDROFACTS_VERSION);
-    AddTablesOption(app, options);
-    AddJsonOption(app, options);
-    app.require_subcommand(1);
-    app.footer(kFooter);
-    AddCommands(app, options);
+    AddTablesOption(program, options);
+    AddJsonOption(program, options);
+    program.SetFooter(kFooter);
+    AddCommands(program, options);
 
-    int status = Parse(app, std::move(arguments));
+    int status = Parse(parser, std::move(arguments));
     if (!FlushOutput()) {
         PrintError("the output can't be written");
         status = kRefused;

@@ -1,6 +1,6 @@
 #include "tools/SetPoint.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include "tools/Failure.h"
 #include "tools/Measures.h"

@@ -1,6 +1,8 @@
 #include "tools/TableFluid.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
+
+#include <algorithm>
 
 #include "tools/Measures.h"
 #include "tools/Numbers.h"

@@ -1,6 +1,6 @@
 #include "tools/TableValves.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <limits>
 #include <numeric>

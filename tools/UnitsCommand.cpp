@@ -1,6 +1,7 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <memory>
+#include <nlohmann/json.hpp>
 
 #include "tools/Conversions.h"
 #include "tools/Measures.h"
@@ -94,15 +95,13 @@ void ShowUnits(const Measure& measure, bool json) {
 
 }  // namespace
 
-void AddUnitsCommand(CLI::App& app, Options& options) {
+void AddUnitsCommand(Command& program, Options& options) {
     const auto measure = std::make_shared<std::string>();
-    CLI::App* const command =
-        app.add_subcommand("units", "List the measures, or the units of one measure");
-    command->add_option("MEASURE", *measure, "Such as flow; without one, all are listed")
-        ->type_name("");
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, measure] {
+    Command command = program.AddCommand("units", "List the measures, or the units of one measure");
+    command.AddWord("MEASURE", *measure, "Such as flow; without one, all are listed");
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, measure] {
         if (measure->empty()) {
             ShowMeasures(options.json);
         } else {

@@ -1,6 +1,7 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <set>
 
 #include "tools/Failure.h"
@@ -192,17 +193,17 @@ void ShowValves(const Options& options, const ValveOptions& own) {
 
 }  // namespace
 
-void AddValveCommand(CLI::App& app, Options& options) {
+void AddValveCommand(Command& program, Options& options) {
     const auto own = std::make_shared<ValveOptions>();
-    CLI::App* const command = app.add_subcommand(
+    Command command = program.AddCommand(
         "valve", "Show the fittings and valves of a table, or those of one type");
-    command->add_option("TABLE", own->table, "The table, in any case")->type_name("")->required();
-    command->add_option("TYPE", own->type, "A device type, in any case")->type_name("");
-    AddLengthUnitsOption(*command, own->units);
-    AddTablesOption(*command, options);
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, own] { ShowValves(options, *own); });
+    command.AddWord("TABLE", own->table, "The table, in any case").Require();
+    command.AddWord("TYPE", own->type, "A device type, in any case");
+    AddLengthUnitsOption(command, own->units);
+    AddTablesOption(command, options);
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, own] { ShowValves(options, *own); });
 }
 
 }  // namespace hydrofacts::command

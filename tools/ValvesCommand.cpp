@@ -1,7 +1,8 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <array>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <numeric>
 
 #include "tools/Lengths.h"
@@ -84,15 +85,15 @@ void ListValves(const Options& options, HF_UNITS system) {
 
 }  // namespace
 
-void AddValvesCommand(CLI::App& app, Options& options) {
+void AddValvesCommand(Command& program, Options& options) {
     const auto system = std::make_shared<std::string>();
-    CLI::App* const command =
-        app.add_subcommand("valves", "List the installed tables of fittings and valves");
-    AddLengthUnitsOption(*command, *system);
-    AddTablesOption(*command, options);
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, system] { ListValves(options, SystemNamed(*system)); });
+    Command command =
+        program.AddCommand("valves", "List the installed tables of fittings and valves");
+    AddLengthUnitsOption(command, *system);
+    AddTablesOption(command, options);
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, system] { ListValves(options, SystemNamed(*system)); });
 }
 
 }  // namespace hydrofacts::command

@@ -136,6 +136,9 @@ TEST_F(TableCheck, FindsWhatReadersOfPipesPassOver) {
             {"0.04572", "abc", 3, 3, "not a number"},
             {"|0.0018", "|-0.0018", 3, 2, "not above 0"},
             {"|140\n", "|140\nR|1|1|1\n", 4, 0, "a second R line"},
+            {"R|0.0018|0.04572|140\n", "", 4, 0, "no material record (R)"},
+            {"R|0.0018|0.04572|140\n* Sizes of 40\n", "Z|5|1|25|1|1|25|25\nR|0.0018|0.04572|140\n",
+             4, 0, "R behind the first Z row, in line 3"},
             {"|0.622|", "|0|", 5, 5, "inside diameter (in.): it is 0"},
             {"|15.8|", "|15,8|", 5, 7, "inside diameter (mm): \"15,8\" is read as 15"},
             {"|21.3\n", "|21.3x\n", 5, 8, "\"21.3x\" is read as 21.3"},
@@ -163,16 +166,6 @@ TEST_F(TableCheck, FindsWhatReadersOfPipesPassOver) {
             {"\n* Sizes of 80", longName.c_str(), 8, 2, "32 characters, 30 at most"},
             {"|24.3|33.4\n", "|24.3|33.4", 10, 0, "no line end"},
         });
-}
-
-TEST_F(TableCheck, FindsAMaterialRecordThatIsMissingOrOutOfPlace) {
-    ExpectFound("Material.PTBL", kPipes,
-                {
-                    {"R|0.0018|0.04572|140\n", "", 4, 0, "no material record (R)"},
-                    {"V|\"1.0\"|test|1|7\nR|0.0018|0.04572|140\n* Sizes of 40\n",
-                     "V|\"1.0\"|test|1|7\nZ|5|1|25|1|1|25|25\nR|0.0018|0.04572|140\n", 4, 0,
-                     "R behind the first Z row, in line 3"},
-                });
 }
 
 TEST_F(TableCheck, FindsWhatReadersOfValvesPassOver) {
@@ -208,6 +201,7 @@ TEST_F(TableCheck, FindsWhatReadersOfValvesPassOver) {
             {"Z|Fitting|\"Elbow\"|9|0.7", "Z|Bend|\"Elbow\"|9|0.7", 5, 2,
              "whose \"Fitting\" counts"},
             {"|0|0|13\n", "|0|0|13", 10, 0, "no line end"},
+            {"|0|0|13\n", "|0|0|13\nZ|Fitting|\"Late\"|1|1|0|0|1\n", 11, 2, "sixth group"},
         });
 }
 
@@ -258,7 +252,7 @@ TEST_F(TableCheck, FindsWhatIsSuspiciousInAFluid) {
         });
 }
 
-TEST_F(TableCheck, RowsAndGroupsHaveALimit) {
+TEST_F(TableCheck, RowsHaveALimit) {
     std::string rows = "S|\"Rows\"\nV|\"1\"|x|1|7\n";
     for (int i = 1; i <= 101; ++i) {
         rows += "Z|Bend|\"B\"|9|1|" + std::to_string(i) + "|" + std::to_string(25 * i) + "|1\n";
@@ -268,13 +262,6 @@ TEST_F(TableCheck, RowsAndGroupsHaveALimit) {
     EXPECT_EQ(many[0].line, 103U);
     EXPECT_THAT(many[0].reason, HasSubstr("100 rows"));
     EXPECT_FALSE(many[0].warning);
-
-    std::string groups(kValves);
-    groups += "Z|Fitting|\"Late\"|1|1|0|0|1\n";
-    const auto sixth = Check("Groups.VTBL", TableText(groups));
-    ASSERT_EQ(sixth.size(), 1U) << Shown(sixth);
-    EXPECT_EQ(sixth[0].line, 11U);
-    EXPECT_THAT(sixth[0].reason, HasSubstr("sixth group"));
 }
 
 TEST_F(TableCheck, SaysWhatIsNoTextOfATable) {

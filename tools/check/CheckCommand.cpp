@@ -1,8 +1,9 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <nlohmann/json.hpp>
 
 #include "tools/Failure.h"
 #include "tools/Names.h"
@@ -187,20 +188,18 @@ void Check(const Options& options, const std::vector<std::string>& names, bool s
 
 }  // namespace
 
-void AddCheckCommand(CLI::App& app, Options& options) {
+void AddCheckCommand(Command& program, Options& options) {
     struct Arguments {
         std::vector<std::string> names;
         bool strict = false;
     };
     const auto arguments = std::make_shared<Arguments>();
-    CLI::App* const command = app.add_subcommand("check", "Find what is wrong with table files");
-    command->add_option("FILE", arguments->names, "Table files, and directories of them")
-        ->type_name("")
-        ->required();
-    command->add_flag("--strict", arguments->strict, "Warnings count for the exit status");
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback(
+    Command command = program.AddCommand("check", "Find what is wrong with table files");
+    command.AddWords("FILE", arguments->names, "Table files, and directories of them").Require();
+    command.AddFlag("--strict", arguments->strict, "Warnings count for the exit status");
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction(
         [&options, arguments] { Check(options, arguments->names, arguments->strict); });
 }
 

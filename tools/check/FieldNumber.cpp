@@ -1,7 +1,8 @@
 #include "tools/check/FieldNumber.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>

@@ -1,7 +1,8 @@
 #include "tools/check/FluidTableCheck.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
+#include <algorithm>
 #include <array>
 #include <iterator>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "tools/check/FormulaRecord.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <array>
 #include <iterator>

@@ -1,6 +1,6 @@
 #include "tools/check/PipeLoad.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include "hydrofacts/hydrofacts.h"
 #include "tools/check/TableText.h"

@@ -1,7 +1,8 @@
 #include "tools/check/PipeTableCheck.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <optional>

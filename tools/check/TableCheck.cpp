@@ -1,6 +1,6 @@
 #include "tools/check/TableCheck.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,6 @@
 #include "tools/check/TableText.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "tools/check/ValveLoad.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <vector>
 

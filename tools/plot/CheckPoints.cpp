@@ -1,6 +1,6 @@
 #include "tools/plot/CheckPoints.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 

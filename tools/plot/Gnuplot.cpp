@@ -1,6 +1,6 @@
 #include "tools/plot/Gnuplot.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include "tools/Failure.h"
 

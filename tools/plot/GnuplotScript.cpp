@@ -1,6 +1,6 @@
 #include "tools/plot/GnuplotScript.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,8 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <fstream>
 #include <memory>
+#include <nlohmann/json.hpp>
 
 #include "tools/Failure.h"
 #include "tools/Names.h"
@@ -138,35 +139,27 @@ void Draw(const Options& options, const PlotOptions& own) {
 
 }  // namespace
 
-void AddPlotCommand(CLI::App& app, Options& options) {
+void AddPlotCommand(Command& program, Options& options) {
     const auto own = std::make_shared<PlotOptions>();
-    CLI::App* const command =
-        app.add_subcommand("plot", "Draw a fluid's property over its table's range");
-    command->add_option("NAME", own->name, "The fluid, in any case")->type_name("")->required();
-    command->add_option("PROPERTY", own->property, JoinNames(PlotProperties(), "or"))
-        ->type_name("")
-        ->required();
-    command->add_option("-o,--output", own->output, "The plot, as .svg, or as .gp for gnuplot")
-        ->type_name("FILE");
-    command->add_option("--state", own->state, "Only this state")
-        ->type_name("liquid|vapor")
-        ->check(CLI::IsMember({"liquid", "vapor"}, CLI::ignore_case).description(""));
-    command->add_flag("--deviation", own->deviation,
-                      "How far the table is off the check points, in percent");
+    Command command = program.AddCommand("plot", "Draw a fluid's property over its table's range");
+    command.AddWord("NAME", own->name, "The fluid, in any case").Require();
+    command.AddWord("PROPERTY", own->property, JoinNames(PlotProperties(), "or")).Require();
+    command.AddOption("-o,--output", own->output, "FILE",
+                      "The plot, as .svg, or as .gp for gnuplot");
+    command.AddChoice("--state", own->state, {"liquid", "vapor"}, "Only this state");
+    command.AddFlag("--deviation", own->deviation,
+                    "How far the table is off the check points, in percent");
     command
-        ->add_option("-p,--pressure", own->pressures,
-                     "Pressure of a vapor's curve, gauge unless --absolute\nis given; may be "
-                     "repeated")
-        ->type_name("PRES")
-        ->take_all()
-        ->allow_extra_args(false)
-        ->group("Set point");
-    AddPressureOptions(*command, own->from);
-    AddUnitOptions(*command, own->units);
-    AddTablesOption(*command, options);
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, own] { Draw(options, *own); });
+        .AddOption("-p,--pressure", own->pressures, "PRES",
+                   "Pressure of a vapor's curve, gauge unless --absolute\nis given; may be "
+                   "repeated")
+        .Under("Set point");
+    AddPressureOptions(command, own->from);
+    AddUnitOptions(command, own->units);
+    AddTablesOption(command, options);
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, own] { Draw(options, *own); });
 }
 
 }  // namespace hydrofacts::command

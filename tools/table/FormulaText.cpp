@@ -1,6 +1,6 @@
 #include "tools/table/FormulaText.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,7 @@
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <memory>
+#include <nlohmann/json.hpp>
 
 #include "tools/Measures.h"
 #include "tools/Numbers.h"
@@ -182,22 +183,20 @@ Json ToJson(ShownTable& shown) {
 
 }  // namespace
 
-void AddTableCommand(CLI::App& app, Options& options) {
+void AddTableCommand(Command& program, Options& options) {
     struct Arguments {
         std::string name;
         UnitOptions units;
     };
     const auto arguments = std::make_shared<Arguments>();
-    CLI::App* const command =
-        app.add_subcommand("table", "Show what a fluid table holds: ranges, formulas, sources");
-    command->add_option("NAME", arguments->name, "The fluid, in any case")
-        ->type_name("")
-        ->required();
-    AddUnitOptions(*command, arguments->units);
-    AddTablesOption(*command, options);
-    AddJsonOption(*command, options);
-    command->footer(kFooter);
-    command->callback([&options, arguments] {
+    Command command =
+        program.AddCommand("table", "Show what a fluid table holds: ranges, formulas, sources");
+    command.AddWord("NAME", arguments->name, "The fluid, in any case").Require();
+    AddUnitOptions(command, arguments->units);
+    AddTablesOption(command, options);
+    AddJsonOption(command, options);
+    command.SetFooter(kFooter);
+    command.SetAction([&options, arguments] {
         ShownTable shown(options, arguments->name, arguments->units);
         if (options.json) {
             PrintJson(ToJson(shown));
