@@ -97,9 +97,9 @@ BENCHMARK(PlainVaporPressure);
 BENCHMARK(VaporDensity);
 BENCHMARK(BareNewton);
 
-const Ratio density("LiquidDensity", "PlainLiquidDensity", 2.5);
-const Ratio viscosity("LiquidViscosity", "PlainLiquidViscosity", 2.5);
-const Ratio vaporPressure("VaporPressure", "PlainVaporPressure", 2.5);
-const Ratio vaporDensity("VaporDensity", "BareNewton", 1.5);
+const Ratio density("LiquidDensity", "PlainLiquidDensity", 1.3);
+const Ratio viscosity("LiquidViscosity", "PlainLiquidViscosity", 1.3);
+const Ratio vaporPressure("VaporPressure", "PlainVaporPressure", 1.3);
+const Ratio vaporDensity("VaporDensity", "BareNewton", 1.2);
 
 }  // namespace

@@ -1,6 +1,6 @@
-// Runs the benchmarks and prints the ratios of pairs: processor time, each side's fastest
-// repetition of this run. `--times FILE`, as the first argument, also writes every benchmark's
-// fastest time: its name, a tab, nanoseconds.
+// Runs the benchmarks and prints the ratios of pairs: each side's fastest repetition of this run,
+// by processor time, or by the clock where the benchmark asks for that. `--times FILE`, as the
+// first argument, also writes every benchmark's fastest time: its name, a tab, nanoseconds.
 
 #include <benchmark/benchmark.h>
 
@@ -34,9 +34,13 @@ class FastestTimes : public benchmark::ConsoleReporter {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs) {
             if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
-            const double time = run.cpu_accumulated_time / static_cast<double>(run.iterations);
+            benchmark::BenchmarkName fullName = run.run_name;
+            const bool byClock = !fullName.time_type.empty();
+            fullName.time_type.clear();
+            const double time = (byClock ? run.real_accumulated_time : run.cpu_accumulated_time) /
+                                static_cast<double>(run.iterations);
             // A benchmark of several sizes has the size in its full name only.
-            for (const std::string& name : {run.run_name.function_name, run.run_name.str()}) {
+            for (const std::string& name : {run.run_name.function_name, fullName.str()}) {
                 const auto [place, added] = times_.emplace(name, time);
                 if (!added) place->second = std::min(place->second, time);
             }

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/Folder.h"
 #include "bench/Ratios.h"
 #include "hydrofacts/hydrofacts.h"
 
@@ -100,28 +101,22 @@ const bench::Ratio loadTwice("LoadPipeSchedule", "ReadPipeTableTwice", 4.0);
 /// A directory of many small pipe tables, the table directory of the library while it exists.
 class ManyTables {
   public:
-    explicit ManyTables(std::int64_t count)
-        : path_(std::filesystem::temp_directory_path() / "hydrofacts-bench-many") {
-        std::filesystem::remove_all(path_);
-        std::filesystem::create_directories(path_);
+    explicit ManyTables(std::int64_t count) {
         for (std::int64_t i = 0; i < count; ++i) {
-            std::ofstream(path_ / ("Material " + std::to_string(i) + ".PTBL"))
+            std::ofstream(Path() / ("Material " + std::to_string(i) + ".PTBL"))
                 << "S\t\"Material\"\r\nV\t\"1.0\"\tbenchmark\t1\t7\r\nR\t0.0018\t0.0457\t140\r\n"
                    "Z\t40\t1\t25\t1.049\t1.315\t26.64\t33.4\r\n";
         }
-        SetDirectory(DIR_TABLES, path_.c_str());
+        SetDirectory(DIR_TABLES, Path().c_str());
     }
-    ~ManyTables() {
-        SetDirectory(DIR_TABLES, nullptr);
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    const std::filesystem::path& Path() const { return path_; }
+    ~ManyTables() { SetDirectory(DIR_TABLES, nullptr); }
     ManyTables(const ManyTables&) = delete;
     ManyTables& operator=(const ManyTables&) = delete;
 
+    const std::filesystem::path& Path() const { return folder_.Path(); }
+
   private:
-    std::filesystem::path path_;
+    bench::Folder folder_{"many"};
 };
 
 void CountPerTable(benchmark::State& state) {

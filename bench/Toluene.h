@@ -1,10 +1,10 @@
 #ifndef HYDROFACTS_BENCH_TOLUENE_H
 #define HYDROFACTS_BENCH_TOLUENE_H
 
-#include <filesystem>
 #include <fstream>
 #include <string>
 
+#include "bench/Folder.h"
 #include "hydrofacts/hydrofacts.h"
 
 namespace bench {
@@ -37,22 +37,13 @@ inline const char* const kTable =
 /// A folder with the table in it, kept until the program ends.
 class TableFolder {
   public:
-    TableFolder() : path_((std::filesystem::temp_directory_path() / "hydrofacts-bench").string()) {
-        std::filesystem::create_directories(path_);
-        std::ofstream(File(), std::ios::binary) << kTable;
-    }
-    ~TableFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    TableFolder(const TableFolder&) = delete;
-    TableFolder& operator=(const TableFolder&) = delete;
+    TableFolder() { std::ofstream(File(), std::ios::binary) << kTable; }
 
-    std::string Path() const { return path_; }
-    std::string File() const { return path_ + "/Toluene.FTBL"; }
+    std::string Path() const { return folder_.Path().string(); }
+    std::string File() const { return Path() + "/Toluene.FTBL"; }
 
   private:
-    std::string path_;
+    Folder folder_{"tables"};
 };
 
 inline const TableFolder& Tables() {

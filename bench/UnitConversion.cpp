@@ -69,9 +69,9 @@ BENCHMARK(ConvertPressure);
 BENCHMARK(ConvertVolumeFlow);
 BENCHMARK(PlainMultiplyDivide);
 
-const bench::Ratio ratio("ConvertRatio", "PlainMultiplyDivide", 5.0);
-const bench::Ratio user("ConvertToUserUnit", "PlainMultiplyDivide", 5.0);
-const bench::Ratio pressure("ConvertPressure", "PlainMultiplyDivide", 5.0);
-const bench::Ratio flow("ConvertVolumeFlow", "PlainMultiplyDivide", 5.0);
+const bench::Ratio ratio("ConvertRatio", "PlainMultiplyDivide", 2.0);
+const bench::Ratio user("ConvertToUserUnit", "PlainMultiplyDivide", 2.0);
+const bench::Ratio pressure("ConvertPressure", "PlainMultiplyDivide", 2.0);
+const bench::Ratio flow("ConvertVolumeFlow", "PlainMultiplyDivide", 2.0);
 
 }  // namespace

@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-#include "quillbase/Conversion.h"
 #include "quillbase/IniFile.h"
 #include "quillbase/Numbers.h"
 #include "quillbase/Text.h"
+#include "quillbase/UnitScales.h"
 
 namespace {
 
@@ -24,9 +24,7 @@ constexpr std::array<std::string_view, 8> kUnitTexts = {
     "psi", "kPa", "bar", "in H2O", "in Hg", "mm H2O", "mm Hg", "Pa",
 };
 
-HF_PUNITS TruePressure(HF_PUNITS unit) {
-    return static_cast<std::size_t>(unit) < kUnitTexts.size() ? unit : HF_PSI;
-}
+HF_PUNITS TruePressure(HF_PUNITS unit) { return quillbase::IsTruePressure(unit) ? unit : HF_PSI; }
 
 }  // namespace
 
@@ -39,7 +37,9 @@ void CAtmPressure::SetValue(double value, HF_PUNITS unit) {
     unit_ = TruePressure(unit);
 }
 
-double CAtmPressure::Value(HF_PUNITS unit) const { return ConvertPressure(value_, unit_, unit); }
+double CAtmPressure::Value(HF_PUNITS unit) const {
+    return quillbase::PressureIn(unit, value_, unit_);
+}
 
 bool CAtmPressure::GetFromINI(char* file) {
     const quillbase::IniFile ini(file);

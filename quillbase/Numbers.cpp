@@ -1,11 +1,15 @@
 #include "quillbase/Numbers.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <string_view>
 #include <system_error>
+
+#include "quillbase/PowersOfTen.h"
 
 namespace quillbase {
 namespace {
@@ -29,15 +33,15 @@ constexpr Notation kHexadecimal = {std::chars_format::hex,     "0123456789abcdef
 
 constexpr const char* kHexadecimalStart = ".0123456789abcdefABCDEF";  // not the i of 0xinf
 
+// The exponent at `text`, or one as good: beyond what any number of digits can make up for, but
+// with room to add their count.
 long long ScanExponent(const char* text) {
-    if (*text == '+') ++text;
+    constexpr long long kHuge = std::numeric_limits<long long>::max() / 2;
+    if (*text == '+' && *++text == '-') return 0;  // two signs: no exponent
     long long exponent = 0;
     const auto result = std::from_chars(text, text + std::strlen(text), exponent);
-    if (result.ec == std::errc::result_out_of_range) {
-        constexpr long long kHuge = std::numeric_limits<int>::max();
-        return *text == '-' ? -kHuge : kHuge;
-    }
-    return exponent;
+    if (result.ec == std::errc::result_out_of_range) return *text == '-' ? -kHuge : kHuge;
+    return std::clamp(exponent, -kHuge, kHuge);
 }
 
 // Only called for numbers that no double holds, so the rough order of magnitude decides.
@@ -78,11 +82,72 @@ int StoreUnsigned(const char* body, const Notation& notation, double* value) {
     return 1;
 }
 
+// The value of a digit; of anything else more than 9.
+constexpr unsigned DigitOf(char c) { return static_cast<unsigned char>(c) - unsigned{'0'}; }
+
+constexpr bool IsDigit(char c) { return DigitOf(c) <= 9; }
+
+// Takes digits into a whole number, which is wrong if they are more than fit; gives their end.
+const char* TakeDigits(const char* text, std::uint64_t& whole) {
+    for (unsigned digit = DigitOf(*text); digit <= 9; digit = DigitOf(*++text)) {
+        whole = whole * 10 + digit;
+    }
+    return text;
+}
+
+// Adds the exponent that begins at `text` to a power. Null if there is none, or one that is too
+// long to be of use.
+const char* TakeExponent(const char* text, int& power) {
+    const bool negative = *text == '-';
+    if (*text == '-' || *text == '+') ++text;
+    if (!IsDigit(*text)) return nullptr;
+    int exponent = *text++ - '0';
+    if (IsDigit(*text)) exponent = exponent * 10 + (*text++ - '0');
+    power += negative ? -exponent : exponent;
+    return IsDigit(*text) ? nullptr : text;
+}
+
 }  // namespace
+
+const char* ScanPlainDecimal(const char* text, double* value) {
+    constexpr std::uint64_t kLargestWhole = std::uint64_t{1} << 53U;
+    constexpr int kLargestPower = static_cast<int>(kPowersOfTen.size()) - 1;
+    constexpr int kMostDigits = 19;  // what 64 bits hold of any digits
+    const bool negative = *text == '-';
+    if (*text == '-' || *text == '+') ++text;
+    std::uint64_t digits = 0;
+    const char* first = text;
+    text = TakeDigits(text, digits);
+    std::ptrdiff_t count = text - first;
+    int power = 0;
+    if (*text == '.') {
+        first = text + 1;
+        text = TakeDigits(first, digits);
+        if (text - first > kMostDigits) return nullptr;
+        power = static_cast<int>(first - text);
+        count -= power;
+    }
+    if (count == 0 || count > kMostDigits) return nullptr;
+    if (*text == 'e' || *text == 'E') text = TakeExponent(text + 1, power);
+    if (text == nullptr || digits > kLargestWhole || std::abs(power) > kLargestPower) {
+        return nullptr;
+    }
+    const auto whole = static_cast<double>(digits);
+    const double scale = kPowersOfTen[static_cast<std::size_t>(std::abs(power))];
+    const double magnitude = power < 0 ? whole / scale : whole * scale;
+    *value = negative ? -magnitude : magnitude;
+    return text;
+}
 
 int ScanReal(const char* text, double* value) {
     const char* start = SkipBlanks(text);
     if (*start == '\0') return kBlankText;
+    double plain = 0.0;
+    const char* end = ScanPlainDecimal(start, &plain);
+    if (end != nullptr && *end != 'x' && *end != 'X') {
+        *value = plain;
+        return 1;
+    }
     const bool negative = *start == '-';
     const char* body = start + (*start == '-' || *start == '+' ? 1 : 0);
 
@@ -97,6 +162,11 @@ int ScanReal(const char* text, double* value) {
 int ScanInteger(const char* text, std::int32_t* value) {
     const char* start = SkipBlanks(text);
     if (*start == '\0') return kBlankText;
+    // One digit, what table records mostly have: no prefix to look for.
+    if (IsDigit(*start) && start[1] == '\0') {
+        *value = *start - '0';
+        return 1;
+    }
     char* end = nullptr;
     const long long number = std::strtoll(start, &end, 0);
     if (end == start) return kNoNumber;

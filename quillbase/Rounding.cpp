@@ -9,31 +9,29 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "quillbase/PowersOfTen.h"
+
 namespace {
 
-// Powers of ten up to 10²² are doubles without an error. With one of them a value scales by a
-// single rounding whose error is known exactly; beyond, whole numbers of any length do the work.
-constexpr int kExactPowers = 22;
+using quillbase::kPowersOfTen;
 
-// clang-format off
-constexpr std::array<double, kExactPowers + 1> kPowersOfTen = {
-    1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22,
-};
-constexpr std::array<double, kExactPowers + 1> kInversePowersOfTen = {
-    1e-0,  1e-1,  1e-2,  1e-3,  1e-4,  1e-5,  1e-6,  1e-7,  1e-8,  1e-9,  1e-10, 1e-11,
-    1e-12, 1e-13, 1e-14, 1e-15, 1e-16, 1e-17, 1e-18, 1e-19, 1e-20, 1e-21, 1e-22,
-};
-// clang-format on
+// With an exact power of ten a value scales by a single rounding whose error is known exactly;
+// beyond, whole numbers of any length do the work.
+constexpr int kExactPowers = static_cast<int>(kPowersOfTen.size()) - 1;
+
+// From 10^-22 to 10^22, each the nearest double.
+constexpr std::array<double, 2 * kExactPowers + 1> kTens = [] {
+    std::array<double, 2 * kExactPowers + 1> tens{};
+    for (std::size_t i = 0; i < kPowersOfTen.size(); ++i) {
+        tens[kExactPowers + i] = kPowersOfTen[i];
+        tens[kExactPowers - i] = 1.0 / kPowersOfTen[i];
+    }
+    return tens;
+}();
 
 constexpr double kAllWhole = 4503599627370496.0;  // 2⁵²: from here on a double has no fraction
 constexpr double kBeyondWhole =
     9007199254740992.0;  // 2⁵³: from here on it has no last digit either
-
-double Power(int exponent) {
-    return exponent >= 0 ? kPowersOfTen[static_cast<std::size_t>(exponent)]
-                         : kInversePowersOfTen[static_cast<std::size_t>(-exponent)];
-}
 
 // Dekker's exact product: the rounding error of a × b, as a double. Written out because not every
 // platform's fma is exact.
@@ -63,7 +61,7 @@ double RoundHalfUp(double value, Tail tail) {
 
 // The value, positive, to the nearest multiple of 10^-places, for |places| up to kExactPowers.
 double RoundByPower(double value, int places) {
-    const double power = Power(std::abs(places));
+    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(places))];
     if (places >= 0) {
         const double scaled = value * power;
         if (scaled >= kBeyondWhole) return value;
@@ -138,7 +136,7 @@ double RoundByWholeNumbers(double value, int places) {
     return Nearest(rounded);
 }
 
-double RoundToPlaces(double value, int places) {
+[[gnu::noinline]] double RoundAnyToPlaces(double value, int places) {
     const double magnitude = std::fabs(value);
     const double rounded = std::abs(places) <= kExactPowers
                                ? RoundByPower(magnitude, places)
@@ -146,22 +144,31 @@ double RoundToPlaces(double value, int places) {
     return rounded == 0.0 ? 0.0 : std::copysign(rounded, value);
 }
 
-bool AtLeastTenTo(double value, int exponent) {
-    if (std::abs(exponent) <= kExactPowers) return value >= Power(exponent);
-    Ratio ratio = RatioOf(value);
-    MultiplyByTenTo(ratio, -exponent);
-    return ratio.over >= ratio.under;
+// The same, with the usual case ahead and by itself: decimals, and a scaled value whose fraction
+// decides alone. All else goes the way above.
+inline double RoundToPlaces(double value, int places) {
+    if (static_cast<unsigned>(places) <= kExactPowers) {
+        const double power = kPowersOfTen[static_cast<std::size_t>(places)];
+        const double scaled = std::fabs(value) * power;
+        if (scaled < kAllWhole) {
+            const double nearest = (scaled + kAllWhole) - kAllWhole;  // the sum has no fraction
+            const bool decided = std::fabs(scaled - nearest) < 0.5;
+            if (decided && nearest > 0.0) return std::copysign(nearest / power, value);
+        }
+    }
+    return RoundAnyToPlaces(value, places);
 }
 
-// The exponent of the first decimal digit of a positive value. Where a value lies within an inverse
-// power's own rounding error either answer rounds to the same decimal.
-int DecimalExponent(double value) {
-    constexpr int kMantissaBits = 52;
-    constexpr int kBias = 1023;
-    int binary = static_cast<int>(std::bit_cast<std::uint64_t>(value) >> kMantissaBits) - kBias;
-    if (binary == -kBias) binary = std::ilogb(value);  // subnormal
-    const int lower = (binary * 78913) >> 18;  // log10(2), just below: for all exponents of doubles
-    return AtLeastTenTo(value, lower + 1) ? lower + 1 : lower;
+// The greatest power of ten that is not above 2^binary, for all exponents of doubles.
+int TenBelow(int binary) { return (binary * 78913) >> 18; }  // log10(2), just below
+
+// As Precision, for a value that no power within kTens is the next one above.
+[[gnu::noinline]] double PrecisionOfDistant(double value, int n) {
+    if (value == 0.0 || !std::isfinite(value)) return value;
+    const int above = TenBelow(std::ilogb(value)) + 1;
+    Ratio ratio = RatioOf(std::fabs(value));
+    MultiplyByTenTo(ratio, -above);
+    return RoundAnyToPlaces(value, n - 1 - (ratio.over >= ratio.under ? above : above - 1));
 }
 
 constexpr int kDisplayDigits = 6;
@@ -170,8 +177,21 @@ constexpr int kDisplayDigits = 6;
 
 double Precision(double value, int n) {
     constexpr int kAllDigits = 17;
-    if (value == 0.0 || !std::isfinite(value) || n >= kAllDigits) return value;
-    return RoundToPlaces(value, std::max(n, 1) - 1 - DecimalExponent(std::fabs(value)));
+    constexpr int kMantissaBits = 52;
+    constexpr int kBias = 1023;
+    if (n >= kAllDigits) return value;
+    n = std::max(n, 1);
+    const double magnitude = std::fabs(value);
+    // Zero and a subnormal have the lowest exponent, infinity and not-a-number the highest.
+    const int binary =
+        static_cast<int>(std::bit_cast<std::uint64_t>(magnitude) >> kMantissaBits) - kBias;
+    const int above = TenBelow(binary) + 1;
+    const auto place = static_cast<unsigned>(above + kExactPowers);
+    if (place >= kTens.size()) return PrecisionOfDistant(value, n);
+    // Where a value lies within an inverse power's own rounding error either number of places
+    // rounds to the same decimal.
+    const int places = n - above - static_cast<int>(magnitude >= kTens[place]);
+    return RoundToPlaces(value, places);
 }
 
 double DPlaces(double value, int n) {

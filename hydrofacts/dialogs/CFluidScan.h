@@ -12,12 +12,19 @@ class CFluidScan : public CFluid {
     /// begun is waited for. A table counts if it loads, with its levels within the limits (0.0: no
     /// limit), if it has the formulas of `state` (FLUID_NONE: any), and if its name has at most 30
     /// characters. What is no usable table is passed over, and so is a directory that can't be
-    /// read.
+    /// read. This object itself stays the fluid it is.
+    ///
+    /// Several hundred tables are shared among threads, as many as the machine has cores; all have
+    /// ended when this returns. What is found doesn't depend on their number.
     void LoadFluidNames(const char* tableDir, FLUIDSTATE state, double highLimit, double lowLimit);
 
   private:
-    bool IsUsable(const char* tableDir, const char* name, FLUIDSTATE state, double highLimit,
-                  double lowLimit);
+    struct Wanted;
+    class Tables;
+    enum class Finding : unsigned char;
+
+    bool IsUsable(const Wanted& wanted, const char* name);
+    Finding LookAt(const Wanted& wanted, const char* name);
 };
 
 namespace hydrofacts {

@@ -15,9 +15,9 @@
 /// another state, directory or levels, take it as it is. A scan that accepts nothing leaves it
 /// empty, and the next one scans again. If no thread can be had, the first dialog scans.
 ///
-/// A dialog that is opened while the scan runs waits for its end. Leaving the program, or unloading
-/// the library, ends the scan at the next table. A scan that runs out of memory leaves the list
-/// empty.
+/// A scan of some hundred tables has threads of its own, which end before it does. A dialog that is
+/// opened while the scan runs waits for its end. Leaving the program, or unloading the library,
+/// ends the scan at the next table. A scan that runs out of memory leaves the list empty.
 ///
 /// May be called from any thread, and from several at once: one of them starts the scan that
 /// counts.

@@ -1,6 +1,7 @@
 // The properties of a fluid at its set point. Table fluids evaluate a formula each time they are
 // asked; user-defined fluids give back what was stored in the coefficients of their formulas.
 
+#include "hydrofacts/fluid/BaseUnits.h"
 #include "hydrofacts/fluid/CFluid.h"
 #include "hydrofacts/fluid/FluidConstants.h"
 #include "quillbase/Rounding.h"
@@ -17,9 +18,10 @@ double FourDigits(double value) { return Precision(value, 4); }
 
 // No formula but vapor density reads the pressure.
 double CFluid::EvaluateAtSetPoint(int slot) const {
-    const double pressure = slot == SLOT_VAPOR_DENSITY ? kPaPres(m_pressure, 0) : 0.0;
-    return m_formulas[slot].CalcResult(KTemp(m_temperature), pressure, m_molecularWt,
-                                       KTemp(m_criticalTemp), 0.0);
+    const hydrofacts::BaseUnits units(*m_pUnits);
+    const double pressure = slot == SLOT_VAPOR_DENSITY ? units.AbsoluteKPa(m_pressure) : 0.0;
+    return m_formulas[slot].CalcResult(units.Kelvin(m_temperature), pressure, m_molecularWt,
+                                       units.Kelvin(m_criticalTemp), 0.0);
 }
 
 double CFluid::GetDensity() const {
@@ -81,7 +83,7 @@ double CFluid::GetUDenSG() {
 }
 
 double CFluid::GetViscosity() const {
-    const double viscosity = GetViscosity(KTemp(m_temperature));
+    const double viscosity = GetViscosity(hydrofacts::BaseUnits(*m_pUnits).Kelvin(m_temperature));
     return IsTableFluid() ? FourDigits(viscosity) : viscosity;
 }
 

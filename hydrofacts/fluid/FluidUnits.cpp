@@ -1,16 +1,17 @@
 // The crossings between a user's units and the base units of the formulas.
 
+#include "hydrofacts/fluid/BaseUnits.h"
 #include "hydrofacts/fluid/CFluid.h"
 #include "hydrofacts/fluid/FluidConstants.h"
 #include "quillbase/Rounding.h"
 
 double CFluid::KTemp(double temperature) const {
-    return m_pUnits->Convert(HF_TEMPERATURE, temperature, HF_USER_UNIT, HF_KELVIN, this);
+    return hydrofacts::BaseUnits(*m_pUnits).Kelvin(temperature);
 }
 
 double CFluid::kPaPres(double pressure, int bAbsolute) const {
-    if (bAbsolute == 0) pressure += m_pUnits->GetAtmosphere(HF_USER_UNIT, false);
-    return m_pUnits->Convert(HF_PRESSURE, pressure, HF_USER_UNIT, HF_KPA, nullptr);
+    const hydrofacts::BaseUnits units(*m_pUnits);
+    return bAbsolute == 0 ? units.AbsoluteKPa(pressure) : units.KPa(pressure);
 }
 
 double CFluid::kgDen(double density) const {
@@ -22,8 +23,8 @@ double CFluid::UserTemp(double tempK) {
 }
 
 double CFluid::UserPres(double presKPa, int bAbsolute) const {
-    const UnitValue<HF_PRESSURE, 0> pressure(HF_KPA, presKPa);
-    double inUserUnit = pressure.value_in(m_pUnits->GetUserUnit(HF_PRESSURE));
+    const int unit = m_pUnits->GetUserUnit(HF_PRESSURE);
+    double inUserUnit = Units::defaultUnits()->Convert(HF_PRESSURE, presKPa, HF_KPA, unit, nullptr);
     if (bAbsolute == 0) inUserUnit -= m_pUnits->GetAtmosphere(HF_USER_UNIT, false);
     return Precision(inUserUnit, 4);
 }

@@ -25,6 +25,17 @@ char* NextField(char* line) {
 }
 
 int TakeReal(char*& rest, double* value) {
+    if (rest == nullptr) return 0;
+    char* start = rest;
+    while (IsDelimiter(*start)) ++start;
+    double plain = 0.0;
+    // A field that is all number need not be gone through a second time for its end.
+    if (const char* end = quillbase::ScanPlainDecimal(start, &plain);
+        end != nullptr && (*end == '\0' || IsDelimiter(*end))) {
+        rest = CutField(start + (end - start));
+        *value = plain;
+        return 1;
+    }
     const char* field = TakeField(rest);
     if (field == nullptr) return 0;
     return quillbase::ScanReal(field, value) != quillbase::kNoNumber ? 1 : 0;

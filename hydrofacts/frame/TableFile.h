@@ -12,6 +12,17 @@ int ReadDoubleField(char* line, double* value);
 
 namespace hydrofacts {
 
+/// What separates fields.
+inline bool IsDelimiter(char c) { return c == '\t' || c == '\r'; }
+
+/// Ends a field at the delimiter or the end of the line behind it. Gives where to go on, null
+/// behind the last field.
+inline char* CutField(char* end) {
+    if (*end == '\0') return nullptr;
+    *end = '\0';
+    return end + 1;
+}
+
 /// The next field of a line, or null behind the last one. Fields are separated by runs of tabs and
 /// carriage returns, so there are no empty ones; blanks belong to the field. The line is cut in
 /// place and the position is kept per thread. `line` is null to go on in the line begun.
@@ -22,18 +33,16 @@ char* NextField(char* line);
 inline char* TakeField(char*& rest) {
     // Plain loops: fields are a few characters long, and the library functions for sets of
     // characters cost more to start than to run.
-    const auto isDelimiter = [](char c) { return c == '\t' || c == '\r'; };
     if (rest == nullptr) return nullptr;
     char* start = rest;
-    while (isDelimiter(*start)) ++start;
+    while (IsDelimiter(*start)) ++start;
     if (*start == '\0') {
         rest = nullptr;
         return nullptr;
     }
     char* end = start;
-    while (*end != '\0' && !isDelimiter(*end)) ++end;
-    rest = *end == '\0' ? nullptr : end + 1;
-    *end = '\0';
+    while (*end != '\0' && !IsDelimiter(*end)) ++end;
+    rest = CutField(end);
     return start;
 }
 

@@ -5,10 +5,14 @@
 #include "hydrofacts/units/Heads.h"
 #include "hydrofacts/units/Units.h"
 #include "quillbase/Conversion.h"
+#include "quillbase/UnitScales.h"
 
 using hydrofacts::IsHead;
 using hydrofacts::LengthOfHead;
+using quillbase::IsTruePressure;
+using quillbase::kPascals;
 
+// What is asked for most, a ratio of factors and a true pressure, comes first and calls nothing.
 double Units::Convert(HF_UNIT_TYPES type, double value, int from, int to,
                       const CFluid* fluid) const {
     if (from == to) return value;
@@ -18,20 +22,28 @@ double Units::Convert(HF_UNIT_TYPES type, double value, int from, int to,
     if (to == HF_USER_UNIT) to = userUnit;
     if (from == to) return value;
 
+    const Catalog& catalog = kCatalogs[type];
+    if (catalog.basis == Basis::kRatio) {
+        const auto factor = [&catalog](int id) {
+            const auto place = static_cast<std::uint32_t>(id);
+            return catalog.rows[place < catalog.count ? place : 0].factor;
+        };
+        return factor(from) * value / factor(to);
+    }
+    if (catalog.basis == Basis::kPressure && IsTruePressure(from) && IsTruePressure(to)) {
+        return value * kPascals[static_cast<std::size_t>(from)] /
+               kPascals[static_cast<std::size_t>(to)];
+    }
     switch (type) {
         case HF_TEMPERATURE:
             return ConvertTemp(value, static_cast<HF_TUNITS>(from), static_cast<HF_TUNITS>(to));
-        case HF_PRESSURE:
-        case HF_HEAD:
-        case HF_HEAD_2:
-            return ConvertPressureOrHead(value, from, to, fluid);
         case HF_FLOW:
             return Convert_Flow(value, static_cast<HF_FLOW_UNITS>(from),
                                 static_cast<HF_FLOW_UNITS>(to), fluid);
         case HF_VISCOSITY:
             return ConvertViscosity(value, from, to, fluid);
         default:
-            return ConvertRatio(type, value, from, to);
+            return ConvertPressureOrHead(value, from, to, fluid);
     }
 }
 
@@ -44,10 +56,6 @@ double Units::Convert(HF_UNIT_TYPES type, double value, char* from, char* to) co
     const int toId = GetUnit(to, type);
     if (fromId == -1 || toId == -1) return value;
     return Convert(type, value, fromId, toId, nullptr);
-}
-
-double Units::ConvertRatio(HF_UNIT_TYPES type, double value, int from, int to) {
-    return FindRow(type, from).factor * value / FindRow(type, to).factor;
 }
 
 double Units::ConvertPressureOrHead(double value, int from, int to, const CFluid* fluid) const {

@@ -1,6 +1,9 @@
 // The conversions that depend on the density of what flows: head and pressure, cP and cSt, and flow
 // by volume, mass and standard volume.
 
+#include <array>
+#include <cstddef>
+
 #include "hydrofacts/fluid/CFluid.h"
 #include "hydrofacts/units/Heads.h"
 #include "hydrofacts/units/Units.h"
@@ -16,16 +19,24 @@ constexpr double kCentistokesDensity =
 constexpr double kStandardAirDensity = 0.0764;  // lb/ft³, at 60 °F and one atmosphere
 constexpr double kGallonsPerCubicFoot = 7.48052;
 
-enum class FlowClass { kNone, kVolume, kMass, kStandard };
+enum class FlowClass : unsigned char { kNone, kVolume, kMass, kStandard };
+
+// By id. The custom unit is a volume flow unless its row says that it goes by mass.
+constexpr std::array<FlowClass, HF_FLOW_OTHER + 1> kFlowClasses = [] {
+    std::array<FlowClass, HF_FLOW_OTHER + 1> classes{};
+    for (int id = 0; id <= HF_FLOW_OTHER; ++id) {
+        const bool mass = (id >= HF_LB_HR && id <= HF_MLB_HR) || (id >= HF_KG_HR && id <= HF_GG_HR);
+        const bool standard = id >= HF_SCFH && id <= HF_SM3_MIN;
+        classes[static_cast<std::size_t>(id)] = mass       ? FlowClass::kMass
+                                                : standard ? FlowClass::kStandard
+                                                           : FlowClass::kVolume;
+    }
+    return classes;
+}();
 
 constexpr FlowClass ClassOf(int id) {
-    if (id < 0) return FlowClass::kNone;
-    if (id <= HF_BPH) return FlowClass::kVolume;
-    if (id <= HF_MLB_HR) return FlowClass::kMass;
-    if (id <= HF_L_S) return FlowClass::kVolume;
-    if (id <= HF_GG_HR) return FlowClass::kMass;
-    if (id <= HF_SM3_MIN) return FlowClass::kStandard;
-    return id <= HF_FLOW_OTHER ? FlowClass::kVolume : FlowClass::kNone;
+    const auto index = static_cast<std::size_t>(id);
+    return index < kFlowClasses.size() ? kFlowClasses[index] : FlowClass::kNone;
 }
 
 double ActualFlow(double scfm, const CFluid* fluid) {
@@ -64,6 +75,19 @@ double Units::Convert_Flow(double value, HF_FLOW_UNITS from, HF_FLOW_UNITS to,
                            const CFluid* fluid) {
     // Ahead of all else: without a fluid a mass flow of zero would be divided by a density of zero.
     if (value == 0.0) return 0.0;
+    const t_unit& fromRow = FindRow(HF_FLOW, from);
+    const t_unit& toRow = FindRow(HF_FLOW, to);
+    // Two volumes or two standard volumes need no density.
+    const FlowClass fromClass = ClassOf(from);
+    const bool byFactors = fromClass == ClassOf(to) && !fromRow.mass_based && !toRow.mass_based &&
+                           (fromClass == FlowClass::kVolume || fromClass == FlowClass::kStandard);
+    if (!byFactors) return ConvertFlowByDensity(value, from, to, fluid);
+    const double flow = fromRow.factor * value;
+    return flow == 0.0 ? 0.0 : flow / toRow.factor;
+}
+
+double Units::ConvertFlowByDensity(double value, HF_FLOW_UNITS from, HF_FLOW_UNITS to,
+                                   const CFluid* fluid) {
     const t_unit& fromRow = FindRow(HF_FLOW, from);
     const t_unit& toRow = FindRow(HF_FLOW, to);
     if (fromRow.mass_based) return Convert_Flow(value * fromRow.factor, HF_KG_HR, to, fluid);

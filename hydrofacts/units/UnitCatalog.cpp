@@ -140,18 +140,18 @@ constexpr unsigned char kFlowRow[] = {0,  1,  2,  3,  4,  6,  7,  8,  9,  11, 12
 
 // By measure.
 constexpr Units::Catalog Units::kCatalogs[kMeasures] = {
-    {Temperature.data(), nullptr, Temperature.size()},
-    {Pressure.data(), kPressureRow, Pressure.size()},
-    {Flow.data(), kFlowRow, Flow.size()},
-    {Density.data(), nullptr, Density.size()},
-    {Viscosity.data(), nullptr, Viscosity.size()},
-    {Velocity.data(), nullptr, Velocity.size()},
-    {Power.data(), nullptr, Power.size()},
-    {Length.data(), nullptr, Length.size()},
-    {Pressure.data(), kPressureRow, Pressure.size()},
-    {Area.data(), nullptr, Area.size()},
-    {ThrustPerLength.data(), nullptr, ThrustPerLength.size()},
-    {Pressure.data(), kPressureRow, Pressure.size()},
+    {Temperature.data(), nullptr, Temperature.size(), Basis::kOther},
+    {Pressure.data(), kPressureRow, Pressure.size(), Basis::kPressure},
+    {Flow.data(), kFlowRow, Flow.size(), Basis::kOther},
+    {Density.data(), nullptr, Density.size(), Basis::kRatio},
+    {Viscosity.data(), nullptr, Viscosity.size(), Basis::kOther},
+    {Velocity.data(), nullptr, Velocity.size(), Basis::kRatio},
+    {Power.data(), nullptr, Power.size(), Basis::kRatio},
+    {Length.data(), nullptr, Length.size(), Basis::kRatio},
+    {Pressure.data(), kPressureRow, Pressure.size(), Basis::kPressure},
+    {Area.data(), nullptr, Area.size(), Basis::kRatio},
+    {ThrustPerLength.data(), nullptr, ThrustPerLength.size(), Basis::kRatio},
+    {Pressure.data(), kPressureRow, Pressure.size(), Basis::kPressure},
 };
 
 Units::t_unit* Units::GetTUnitArray(HF_UNIT_TYPES type, int& count) {

@@ -10,6 +10,9 @@
 #include "win32/Win32.h"
 
 class CFluid;
+namespace hydrofacts {
+class BaseUnits;
+}
 
 /// The units a user works in: a unit system, one user unit for each of the twelve measures,
 /// absolute or gauge pressure, and the atmospheric pressure between the two. Also the catalogs of
@@ -122,10 +125,10 @@ class HYDROFACTS_API Units : public CAtmPressure {
     double Convert(HF_UNIT_TYPES type, double value, char* from, char* to) const;
 
   private:
+    friend class hydrofacts::BaseUnits;
+
     HYDROFACTS_HIDDEN static t_unit* GetTUnitArray(HF_UNIT_TYPES type, int& count);
     HYDROFACTS_HIDDEN static t_unit GetTUnit(HF_UNIT_TYPES type, int id);
-    HYDROFACTS_HIDDEN static double ConvertRatio(HF_UNIT_TYPES type, double value, int from,
-                                                 int to);
     HYDROFACTS_HIDDEN double ConvertPressureOrHead(double value, int from, int to,
                                                    const CFluid* fluid) const;
     HYDROFACTS_HIDDEN static double CrossHeadAndPressure(double value, int from, int to,
@@ -134,6 +137,8 @@ class HYDROFACTS_API Units : public CAtmPressure {
                                                      const CFluid* fluid);
     HYDROFACTS_HIDDEN static double Convert_Flow(double value, HF_FLOW_UNITS from, HF_FLOW_UNITS to,
                                                  const CFluid* fluid);
+    HYDROFACTS_HIDDEN static double ConvertFlowByDensity(double value, HF_FLOW_UNITS from,
+                                                         HF_FLOW_UNITS to, const CFluid* fluid);
 
     HYDROFACTS_HIDDEN static std::array<t_unit, 4> Temperature;
     HYDROFACTS_HIDDEN static std::array<t_unit, 14> Pressure;
@@ -149,18 +154,26 @@ class HYDROFACTS_API Units : public CAtmPressure {
 
     static constexpr int kMeasures = 12;
 
+    /// What two units of a measure convert by.
+    enum class Basis : unsigned char {
+        kRatio,     ///< their factors alone; a row's place is its id
+        kPressure,  ///< pascals, or the density of the liquid for a head
+        kOther,     ///< a rule of the measure's own
+    };
+
     /// A measure's rows, and where the row of an id stands if not at the id's own place.
     struct Catalog {
         t_unit* rows;
         const unsigned char* rowOfId;
-        std::size_t count;
+        std::uint32_t count;
+        Basis basis;
     };
     HYDROFACTS_HIDDEN static const Catalog kCatalogs[kMeasures];
 
     /// The row of an id, or the first row. The measure must be one of the twelve.
     HYDROFACTS_HIDDEN static const t_unit& FindRow(HF_UNIT_TYPES type, int id) {
         const Catalog& catalog = kCatalogs[type];
-        const auto index = static_cast<std::size_t>(id);
+        const auto index = static_cast<std::uint32_t>(id);
         if (index >= catalog.count) return catalog.rows[0];
         return catalog.rows[catalog.rowOfId == nullptr ? index : catalog.rowOfId[index]];
     }

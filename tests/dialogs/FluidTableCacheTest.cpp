@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <random>
 #include <string>
 #include <thread>
 
@@ -13,6 +14,7 @@
 #endif
 
 #include "hydrofacts/dialogs/CFluidScan.h"
+#include "hydrofacts/frame/TableSearch.h"
 #include "quillbase/Directory.h"
 #include "tests/dialogs/FluidHost.h"
 
@@ -90,6 +92,62 @@ TEST_F(FluidTableCache, FirstScanThatFindsSomethingDecidesForTheProcess) {
 #endif
     std::filesystem::remove_all(folder_.path);
     EXPECT_EQ(Listed(FLUID_VAPOR), Texts{"Liquid"});
+}
+
+// A table as chance has it: most are good, others are short, lack formulas or have a record of
+// another kind in the place of a formula, which then stays that of the table loaded before.
+FluidText Chance(std::mt19937& random) {
+    FluidText table;
+    for (std::string& formula : table.formulas) {
+        switch (random() % 40) {
+            case 0:
+                formula = formula.substr(0, 2) + "\t0";
+                break;
+            case 1:
+            case 2:
+                formula = "D\t1";
+                break;
+            case 3:
+                formula = "V";
+                break;
+            case 4:
+                formula = "P9\t1\t1";
+                break;
+            default:
+                break;
+        }
+    }
+    if (random() % 8 == 0) table.version = "V\t\"1.0\"\tx\t9\t9";
+    if (random() % 8 == 0) table.constants = "D\t28.9586\t400";
+    if (random() % 8 == 0) {
+        for (std::size_t i = 2 + random() % 6; i < table.formulas.size(); ++i) {
+            table.formulas.at(i).clear();
+        }
+    }
+    return table;
+}
+
+TEST_F(FluidTableCache, ThreadsOfAScanFindWhatOneFindsThatReadsTheTablesInTurn) {
+    constexpr unsigned kSeed = 2024;
+    constexpr int kTables = 700;
+    SCOPED_TRACE(::testing::Message() << "seed " << kSeed);
+    std::mt19937 random(kSeed);
+    for (int i = 0; i < kTables; ++i) folder_.Add("Fluid " + std::to_string(i), Chance(random));
+    for (const FLUIDSTATE state : {FLUID_NONE, FLUID_LIQUID, FLUID_VAPOR}) {
+        TestFluid fluid;
+        std::string expected;
+        for (hydrofacts::TableSearch tables(folder_.path.c_str(), ".FTBL"); tables.Next();) {
+            if (fluid.LoadFluidTable(folder_.path.c_str(), tables.Name(), 7.0, 1.0) == 0) continue;
+            if (state != FLUID_NONE && !fluid.FormulasExist(state)) continue;
+            expected += std::string(tables.Name()) + '\t';
+        }
+        EXPECT_GT(std::ranges::count(expected, '\t'), kTables / 3) << "for a scan to be a test";
+        for (int scans = 0; scans < 3; ++scans) {
+            ForgetFluidTables();
+            CFluidScan().LoadFluidNames(folder_.path.c_str(), state, 7.0, 1.0);
+            EXPECT_EQ(hydrofacts::FluidNamesFound(), expected) << state;
+        }
+    }
 }
 
 // Returns when a scan on another thread has begun.

@@ -3,14 +3,18 @@
 // and so on.
 
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <limits>
 #include <memory>
 #include <new>
 #include <string>
+#include <system_error>
+#include <thread>
 
 #include "hydrofacts/dialogs/CFluidScan.h"
 #include "hydrofacts/dialogs/FluidTableCache.h"
@@ -211,6 +215,34 @@ TEST_F(MemoryFaults, ScanThatFindsNoRoomLeavesNoNames) {
     const auto scan = [&] { CFluidScan().LoadFluidNames(path_.c_str(), FLUID_NONE, 0.0, 0.0); };
     EXPECT_GT(FailEverywhere(scan, [&] { EXPECT_EQ(hydrofacts::FluidNamesFound(), ""); }), 2);
     EXPECT_EQ(hydrofacts::FluidNamesFound(), "Plain\t");
+    ForgetFluidTables();
+}
+
+TEST_F(MemoryFaults, ScanWhoseThreadsFindNoRoomLeavesNoNames) {
+    constexpr int kTables = 220;
+    for (int i = 1; i < kTables; ++i) folder_.Write(std::to_string(i) + ".FTBL", kFluidTable);
+    ForgetFluidTables();
+    const auto scan = [&] { CFluidScan().LoadFluidNames(path_.c_str(), FLUID_NONE, 0.0, 0.0); };
+    EXPECT_GT(FailEverywhere(scan, [&] { EXPECT_EQ(hydrofacts::FluidNamesFound(), ""); }), kTables);
+    EXPECT_EQ(std::ranges::count(hydrofacts::FluidNamesFound(), '\t'), kTables);
+    ForgetFluidTables();
+}
+
+TEST_F(MemoryFaults, ScanThatIsRefusedHelpersDoesWithoutThem) {
+    constexpr int kTables = 220;
+    constexpr std::size_t kNoSuchStack = std::size_t{1} << 46U;
+    for (int i = 1; i < kTables; ++i) folder_.Write(std::to_string(i) + ".FTBL", kFluidTable);
+    ForgetFluidTables();
+    pthread_attr_t former;
+    pthread_attr_t none;
+    ASSERT_EQ(::pthread_getattr_default_np(&former), 0);
+    ASSERT_EQ(::pthread_getattr_default_np(&none), 0);
+    ASSERT_EQ(::pthread_attr_setstacksize(&none, kNoSuchStack), 0);
+    ASSERT_EQ(::pthread_setattr_default_np(&none), 0);
+    EXPECT_THROW(std::jthread([] {}), std::system_error);
+    CFluidScan().LoadFluidNames(path_.c_str(), FLUID_NONE, 0.0, 0.0);
+    ::pthread_setattr_default_np(&former);
+    EXPECT_EQ(std::ranges::count(hydrofacts::FluidNamesFound(), '\t'), kTables);
     ForgetFluidTables();
 }
 

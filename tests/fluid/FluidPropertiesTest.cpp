@@ -96,6 +96,55 @@ TEST(FluidProperties, TemperaturesAndPressuresCrossToBaseUnitsUnrounded) {
     EXPECT_EQ(absolute.kPaPres(1.5, 0), absolute.kPaPres(1.5, 1));
 }
 
+// Getters take the set point to base units on a way of their own. Whatever the units, heads and ids
+// of no unit included, it leads to the same bits as Units.
+TEST(FluidProperties, SetPointsCrossToBaseUnitsAsUnitsConvertThem) {
+    constexpr double kTemperature = 80.33;
+    constexpr double kPressure = 31.7;
+    for (const int tunit : {-1, 0, 1, 2, 3, 4, int{HF_USER_UNIT}}) {
+        for (int punit = HF_USER_UNIT; punit <= HF_M_H2O + 1; ++punit) {
+            for (const bool absolute : {false, true}) {
+                SCOPED_TRACE(::testing::Message() << tunit << ", " << punit << ", " << absolute);
+                TestFluid fluid(HF_DEG_C, HF_KPA, 0, 98.7);
+                Units& units = *fluid.m_pUnits;
+                units.SetUserUnit(HF_TEMPERATURE, tunit);
+                units.SetUserUnit(HF_PRESSURE, punit);
+                units.SetAbsolute(absolute);
+                const auto kPa = [&units](double pressure) {
+                    return units.Convert(HF_PRESSURE, pressure, HF_USER_UNIT, HF_KPA, nullptr);
+                };
+                const double atmosphere = units.GetAtmosphere(HF_USER_UNIT, false);
+                EXPECT_EQ(
+                    fluid.KTemp(kTemperature),
+                    units.Convert(HF_TEMPERATURE, kTemperature, HF_USER_UNIT, HF_KELVIN, nullptr));
+                EXPECT_EQ(fluid.kPaPres(kPressure, 0), kPa(kPressure + atmosphere));
+                EXPECT_EQ(fluid.kPaPres(kPressure, 1), kPa(kPressure));
+            }
+        }
+    }
+}
+
+TEST(FluidProperties, ChangesOfUnitsAndAtmosphereAreSeenAtOnce) {
+    TableFolder folder;
+    TestFluid fluid = folder.Fluid({}, 350.0, 300.0);
+    ASSERT_EQ(fluid.GetFluidState(), FLUID_VAPOR);
+    const auto expect = [&fluid](double kPa, double kelvin) {
+        EXPECT_DOUBLE_EQ(fluid.GetDensity(), kPa * 28.9586 / (kR * kelvin));
+        EXPECT_DOUBLE_EQ(fluid.GetVaporPres(), 100.0 + 10.0 * (kelvin - 300.0));
+    };
+    expect(300.0, 350.0);
+    Units& units = *fluid.m_pUnits;
+    units.SetAbsolute(false);
+    units.SetAtmosphere(90.0, HF_KPA);
+    expect(390.0, 350.0);
+    units.SetUserUnit(HF_PRESSURE, HF_BAR);
+    expect(30090.0, 350.0);
+    units.SetUserUnit(HF_TEMPERATURE, HF_DEG_C);
+    expect(30090.0, 623.15);
+    units.SetUserUnit(HF_PRESSURE, HF_HEAD_M);
+    EXPECT_EQ(fluid.GetDensity(), 0.0);
+}
+
 TEST(FluidProperties, TaggedValuesCarryTheirUnits) {
     TableFolder folder;
     TestFluid fluid = folder.Fluid({}, 300.0, 500.0);

@@ -47,12 +47,13 @@ TEST(TableFile, PositionOfTheCutIsEachThreadsOwn) {
 }
 
 TEST(TableFile, NumberFieldsLeaveTheDefaultWhereTheyHoldNone) {
-    std::string line = "1.5\t 2e3x\t  \tabc\t0x10";
+    std::string line = "1.5\t 2e3x\t  \tabc\t0x10\t\r\t-4e-1\r0x\t1e5e\t+.25\r";
     const struct {
         bool read;
         double value;
-    } kFields[] = {{true, 1.5},  {true, 2000.0}, {true, 7.0},
-                   {false, 7.0}, {true, 16.0},   {false, 7.0}};
+    } kFields[] = {{true, 1.5},  {true, 2000.0}, {true, 7.0},  {false, 7.0},
+                   {true, 16.0}, {true, -0.4},   {false, 7.0}, {true, 1e5},
+                   {true, 0.25}, {false, 7.0},   {false, 7.0}};
     char* start = line.data();
     for (const auto& field : kFields) {
         double value = 7.0;

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "quillbase/CAtmPressure.h"
-#include "quillbase/Rounding.h"
 #include "tests/support/TempFolder.h"
 #ifndef _WIN32
 #include <sys/resource.h>
@@ -20,11 +19,6 @@ namespace fs = std::filesystem;
 
 bool Save(double value, HF_PUNITS unit, std::string path) {
     return CAtmPressure().SetToINI(value, unit, path.data());
-}
-
-TEST(AtmosphereFile, DefaultIsTheStandardAtmosphere) {
-    EXPECT_EQ(CAtmPressure().Value(HF_KPA), 101.325);
-    EXPECT_EQ(Precision(CAtmPressure().Value(HF_PSI), 5), 14.696);
 }
 
 TEST(AtmosphereFile, ValueAndUnitComeBackToTheLastBit) {

@@ -66,6 +66,21 @@ TEST(Conversion, PressuresAgreeWithNistSp811) {
     }
 }
 
+TEST(Conversion, PressuresAreMultipliedAndThenDivided) {
+    for (int from = HF_PSI; from <= HF_PA; ++from) {
+        for (int to = HF_PSI; to <= HF_PA; ++to) {
+            if (from == to) continue;
+            const auto pascals = [](int unit) {
+                return ConvertPressure(1.0, static_cast<HF_PUNITS>(unit), HF_PA);
+            };
+            EXPECT_EQ(
+                ConvertPressure(12.3, static_cast<HF_PUNITS>(from), static_cast<HF_PUNITS>(to)),
+                12.3 * pascals(from) / pascals(to))
+                << from << " to " << to;
+        }
+    }
+}
+
 TEST(Conversion, UnknownUnitsCountAsTheFirst) {
     EXPECT_EQ(ConvertTemp(32.0, static_cast<HF_TUNITS>(9), HF_DEG_C), 0.0);
     EXPECT_EQ(ConvertTemp(0.0, HF_DEG_C, static_cast<HF_TUNITS>(-1)), 32.0);

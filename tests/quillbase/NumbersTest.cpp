@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <random>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "quillbase/Numbers.h"
 #ifndef _WIN32
@@ -24,6 +28,9 @@ constexpr double kUntouched = 7.25;
 
 TEST(Numbers, RealsReadAsTheFormatLgReadsThem) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    // What follows these digits is no exponent.
+    const std::string twoSigns = std::string(400, '7') + "e+-500";
+    const std::string twoSignsHexadecimal = "0x" + std::string(400, '7') + "p+-9000";
     const struct {
         const char* text;
         int result;
@@ -45,6 +52,12 @@ TEST(Numbers, RealsReadAsTheFormatLgReadsThem) {
         {"-Infinity", 1, -kInfinity},
         {"1e400", 1, kInfinity},
         {"-1e99999999999999999999", 1, -kInfinity},
+        {twoSigns.c_str(), 1, kInfinity},
+        {twoSignsHexadecimal.c_str(), 1, kInfinity},
+        // With the count of digits these exponents exceed 64 bits.
+        {"1e9223372036854775807", 1, kInfinity},
+        {"1e-9223372036854775808", 1, 0.0},
+        {"0.01e-9223372036854775808", 1, 0.0},
         {"0.00001e-320", 1, 0.0},
         {"1e-99999999999999999999", 1, 0.0},
         {"0x1p99999", 1, kInfinity},
@@ -70,6 +83,53 @@ TEST(Numbers, RealsReadAsTheFormatLgReadsThem) {
     double notANumber = 0.0;
     EXPECT_EQ(ScanReal("NaN", &notANumber), 1);
     EXPECT_TRUE(std::isnan(notANumber));
+}
+
+// What the library reads in a way of its own has to be the double that the standard library reads.
+void ExpectAsFromChars(const std::string& text) {
+    double expected = 0.0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), expected);
+    if (read.ec == std::errc::result_out_of_range) return;
+    double value = kUntouched;
+    ASSERT_EQ(ScanReal(text.c_str(), &value), read.ec == std::errc{} ? 1 : kNoNumber) << text;
+    if (read.ec != std::errc{}) expected = kUntouched;
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(value), std::bit_cast<std::uint64_t>(expected)) << text;
+}
+
+TEST(Numbers, DecimalsAreTheNearestDoubles) {
+    constexpr std::uint64_t kSeed = 815;
+    SCOPED_TRACE(::testing::Message() << "seed " << kSeed);
+    std::istringstream edges(
+        "9007199254740992 9007199254740993 9007199254740993e1 9007199254740992e22 "
+        "9007199254740992e23 9007199254740991e-22 9007199254740991e-23 1e22 1e23 8.5e-22 "
+        "8.5e-23 1e+022 1e022 1e-0000022 9999999999999999999 18446744073709551616 "
+        "18446744073709551617 0.0000000000000000001 0.00000000000000000001 "
+        "00000000000000000000.5 123456789012345678901234567890 0e99 0e999 -0.0 -0e5 -0 5.e1 "
+        ".5e1 .e1 1.2.3 1e 1e+ 1e- 1e5e5 1e5.5 1e+-5 1e--5 7E 1.5E+2x 4x "
+        "2.2250738585072011e-308 1.7976931348623157e308 0.1e1e 1,5");
+    for (std::string text; edges >> text;) ExpectAsFromChars(text);
+    std::mt19937_64 random(kSeed);
+    for (int i = 0; i < 50000; ++i) {
+        // Digits of any number with a point anywhere, and exponents about the largest plain power.
+        std::string text = random() % 3 == 0 ? "-" : "";
+        text += std::to_string(random() >> (random() % 64));
+        if (random() % 8 == 0) text += std::to_string(random() % 1000);
+        if (random() % 4 != 0) {
+            const std::size_t digits = text.size() - (text.front() == '-' ? 1 : 0);
+            text.insert(text.size() - random() % (digits + 1), ".");
+        }
+        if (random() % 2 == 0) text += "e" + std::to_string(static_cast<int>(random() % 64) - 32);
+        ExpectAsFromChars(text);
+        if (HasFatalFailure()) return;
+    }
+    constexpr std::string_view kAlphabet = "0123456789012345678901234567890123456789.-+eE";
+    for (int i = 0; i < 50000; ++i) {
+        std::string text(1, kAlphabet[random() % 40]);
+        for (std::uint64_t n = random() % 24; n > 0; --n)
+            text += kAlphabet[random() % kAlphabet.size()];
+        ExpectAsFromChars(text);
+        if (HasFatalFailure()) return;
+    }
 }
 
 TEST(Numbers, IntegersReadAsTheFormatIReadsThem) {

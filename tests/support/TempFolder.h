@@ -2,6 +2,7 @@
 #define HYDROFACTS_TESTS_SUPPORT_TEMPFOLDER_H
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -9,7 +10,8 @@
 #include <string>
 #include <string_view>
 
-/// A folder of a test's own, empty at first and gone at its end.
+/// A folder of a test's own, also where the tests run twice at once: empty at first and gone at its
+/// end.
 class TempFolder {
   public:
     TempFolder() {
@@ -19,6 +21,7 @@ class TempFolder {
         for (char& c : name) {
             if (c == '/') c = '-';
         }
+        name.append("-").append(std::to_string(::getpid()));
         path_ = std::filesystem::temp_directory_path() / name;
         std::filesystem::remove_all(path_);
         std::filesystem::create_directories(path_);

@@ -148,6 +148,46 @@ TEST_F(Convert, UserUnitStandsForTheMeasuresOwn) {
     }
 }
 
+// The first row of each catalog has the id 0; a flow of no unit is 0.0, a viscosity stays.
+TEST_F(Convert, IdsOfNoUnitAreTakenAsTheFirstRow) {
+    constexpr double v = 12.5;
+    constexpr int kCounts[] = {4, 14, 26, 4, 2, 3, 3, 9, 14, 5, 2, 14};
+    constexpr int kLowest = std::numeric_limits<int>::min();
+    constexpr int kHighest = std::numeric_limits<int>::max();
+    for (int type = HF_TEMPERATURE; type <= HF_HEAD_2; ++type) {
+        const auto measure = static_cast<HF_UNIT_TYPES>(type);
+        for (const int odd : {-1, -3, kLowest, kCounts[type], 255, 256, kHighest}) {
+            SCOPED_TRACE(::testing::Message() << type << ", " << odd);
+            for (int id = 1; id < kCounts[type]; ++id) {
+                const double first = units_.Convert(measure, v, 0, id, &liquid_);
+                const double back = units_.Convert(measure, v, id, 0, &liquid_);
+                const bool stays = type == HF_VISCOSITY;
+                const bool flow = type == HF_FLOW;
+                EXPECT_EQ(units_.Convert(measure, v, odd, id, &liquid_), stays  ? v
+                                                                         : flow ? 0.0
+                                                                                : first);
+                EXPECT_EQ(units_.Convert(measure, v, id, odd, &liquid_), stays  ? v
+                                                                         : flow ? 0.0
+                                                                                : back);
+            }
+            units_.SetUserUnit(measure, odd);
+            EXPECT_EQ(units_.Convert(measure, v, HF_USER_UNIT, 1, &liquid_),
+                      units_.Convert(measure, v, odd, 1, &liquid_));
+            EXPECT_EQ(units_.Convert(measure, v, 1, &liquid_),
+                      units_.Convert(measure, v, 1, odd, &liquid_));
+        }
+    }
+}
+
+TEST_F(Convert, SignedZeros) {
+    EXPECT_TRUE(std::signbit(units_.Convert(HF_LENGTH, -0.0, HF_LEN_M, HF_LEN_FT, nullptr)));
+    EXPECT_TRUE(std::signbit(units_.Convert(HF_PRESSURE, -0.0, HF_BAR, HF_PSI, nullptr)));
+    // A flow of nothing has no direction, not even one that is too small for a double.
+    constexpr double kSmallest = std::numeric_limits<double>::denorm_min();
+    EXPECT_FALSE(std::signbit(units_.Convert(HF_FLOW, -0.0, HF_M3_HR, HF_BPD, nullptr)));
+    EXPECT_FALSE(std::signbit(units_.Convert(HF_FLOW, -kSmallest, HF_BPD, HF_MGD, nullptr)));
+}
+
 TEST_F(Convert, TextsNameTheUnits) {
     char psi[] = "PSI";
     char kPa[] = "kpa";

@@ -19,14 +19,6 @@ CFluid LiquidOfDensity(double kgPerM3) {
     return fluid;
 }
 
-TEST(UnitValue, NewValueIsZeroInTheFirstUnit) {
-    const Length length;
-    EXPECT_EQ(length.unit, 0);
-    EXPECT_EQ(length.raw_value(), 0.0);
-    EXPECT_EQ(length.fluid, nullptr);
-    EXPECT_EQ(length.units, Units::defaultUnits());
-}
-
 TEST(UnitValue, SettersDoNotConvert) {
     Length length(HF_LEN_M, 1.0);
     EXPECT_DOUBLE_EQ(length.value_in(HF_LEN_CM), 100.0);
