@@ -6,6 +6,47 @@ install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${doc_dir})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${doc_dir}
         FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.png" PATTERN "*.?TBL" PATTERN "*.DAT" PATTERN "*.csv")
 
+# What is in them of others' code, and what has changed, where one looks for it on each system. The manual
+# page is made where go-md2man is there (`scripts/setup --packages`), without which everything else goes on:
+# here and not by the build, so that configuring anew is enough for a package to have it.
+set(notices ${PROJECT_SOURCE_DIR}/third-party/NOTICES)
+set(changes ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
+if(WIN32)
+    install(FILES ${notices} DESTINATION . RENAME NOTICES.txt)
+    install(FILES ${changes} DESTINATION ${doc_dir})
+else()
+    install(FILES ${notices} DESTINATION ${doc_dir} RENAME copyright)
+    install(FILES ${notices} DESTINATION ${doc_dir}-dev RENAME copyright COMPONENT Development)
+    if(TARGET win32_qt)
+        install(FILES ${notices} DESTINATION ${doc_dir}-qt RENAME copyright COMPONENT Qt)
+    endif()
+    if(TARGET hydrofacts-demo)
+        install(FILES ${notices} DESTINATION ${doc_dir}-demo RENAME copyright COMPONENT Demo)
+    endif()
+
+    # hydrofacts_install_compressed(FILE NAME FOLDER) installs FILE as FOLDER/NAME.gz, the same bytes each time.
+    find_program(HYDROFACTS_GZIP gzip REQUIRED)
+    function(hydrofacts_install_compressed file name folder)
+        execute_process(COMMAND ${HYDROFACTS_GZIP} -9nc ${file} OUTPUT_FILE ${PROJECT_BINARY_DIR}/${name}.gz
+                        COMMAND_ERROR_IS_FATAL ANY)
+        install(FILES ${PROJECT_BINARY_DIR}/${name}.gz DESTINATION ${folder})
+    endfunction()
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${changes})
+    hydrofacts_install_compressed(${changes} changelog ${doc_dir})
+    find_program(HYDROFACTS_MD2MAN go-md2man)
+    if(HYDROFACTS_MD2MAN)
+        set(man_page ${PROJECT_BINARY_DIR}/hydrofacts.1)
+        set(man_script ${PROJECT_SOURCE_DIR}/scripts/man-page)
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+                     ${PROJECT_SOURCE_DIR}/docs/command.md ${man_script})
+        execute_process(COMMAND ${man_script} ${man_page} COMMAND_ERROR_IS_FATAL ANY)
+        hydrofacts_install_compressed(${man_page} hydrofacts.1 ${CMAKE_INSTALL_MANDIR}/man1)
+    else()
+        message(STATUS "Without the manual page: it needs go-md2man")
+    endif()
+endif()
+
+
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_PACKAGE_NAME hydrofacts)
 set(CPACK_PACKAGE_VENDOR "the Hydrofacts maintainers")

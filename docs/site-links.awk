@@ -32,7 +32,7 @@ function relinked(line,    done, text, target, parts) {
             done = done "[" text "](" target ")"
         } else if (target ~ /#/) {
             done = done "[" text "](#" (parts[1] == "" ? here : page(parts[1])) "-" parts[2] ")"
-        } else if (target ~ /^(docs\/)?[a-z-]+\.md$/) {
+        } else if (target ~ /^(docs\/)?[A-Za-z-]+\.md$/) {
             done = done "[" text "](#page-" page(target) ")"
         } else {
             done = done text " (`" target "`)"
