@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tables/NominalSize.h"
 #include "tables/TableLines.h"
 #include "tables/pipes/PipeData.h"
 #include "tables/pipes/PipeTableFile.h"
@@ -49,8 +48,6 @@ TEST(PipeData, SpoiledRowIsRefusedWithItsPlace) {
     }
 }
 
-TEST(PipeData, SoundDataAreTaken) { EXPECT_EQ(23U, ReadPipes(HYDROFACTS_PIPE_DATA).size()); }
-
 TEST(PipeTableFile, FileThatDiffersFromTheDataIsNoticed) {
     const TempFolder folder;
     const std::vector<PipeMaterial> pipes = ReadPipes(HYDROFACTS_PIPE_DATA);
@@ -74,17 +71,6 @@ TEST(TableLines, RemarkIsCutAtBlanks) {
     EXPECT_THROW(lines.Record({"Z", "", "1"}), InputError);
     EXPECT_THROW(lines.Record({"Z", "1234567890", "1"}), InputError);
     EXPECT_THROW(lines.Record({"Z", "\xc3\xa9"}), InputError);
-}
-
-TEST(NominalSize, InchSizeHasItsDn) {
-    EXPECT_EQ(6.0, NominalDiameter(0.125));
-    EXPECT_EQ(65.0, NominalDiameter(2.5));
-    EXPECT_EQ(100.0, NominalDiameter(4.0));
-    EXPECT_EQ(1200.0, NominalDiameter(48.0));
-    EXPECT_EQ(0.0, NominalDiameter(4.5));
-    EXPECT_EQ(0.0, NominalDiameter(1.0 / 3.0));
-    EXPECT_EQ("0.333333", GeneralNumber(1.0 / 3.0));
-    EXPECT_EQ("1e+06", GeneralNumber(1e6));
 }
 
 }  // namespace

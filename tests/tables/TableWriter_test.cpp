@@ -14,8 +14,8 @@
 #include "tables/Fit.h"
 #include "tables/LeftOut.h"
 #include "tables/TableFile.h"
-#include "tables/VaporDensity.h"
 #include "tests/support/TempFolder.h"
+#include "tests/tables/PipeValveSpoiledData.h"
 
 namespace {
 
@@ -32,42 +32,8 @@ const FluidData& Fluid(const std::string& name) {
     throw std::runtime_error("no such fluid: " + name);
 }
 
-/// A copy of the data, with one text in one file replaced.
-class SpoiledData : public ::testing::Test {
-  protected:
-    std::string MessageAfter(const std::string& file, const std::string& from,
-                             const std::string& to) {
-        const fs::path folder = m_folder.Path();
-        for (const auto& entry : fs::directory_iterator(HYDROFACTS_FLUID_DATA)) {
-            fs::copy_file(entry.path(), folder / entry.path().filename(),
-                          fs::copy_options::overwrite_existing);
-        }
-        std::ostringstream text;
-        text << std::ifstream(folder / file, std::ios::binary).rdbuf();
-        std::string spoiled = text.str();
-        const std::size_t place = spoiled.find(from);
-        EXPECT_NE(std::string::npos, place) << from;
-        spoiled.replace(place, from.size(), to);
-        std::ofstream(folder / file, std::ios::binary) << spoiled;
-        try {
-            ReadReferenceData(folder);
-        } catch (const InputError& error) {
-            return error.what();
-        }
-        return "";
-    }
-
-    TempFolder m_folder;
-};
-
-TEST_F(SpoiledData, IsRefusedWithFileLineAndField) {
-    struct Row {
-        const char* file;
-        const char* from;
-        const char* to;
-        const char* message;
-    };
-    const Row kRows[] = {
+TEST(SpoiledData, IsRefusedWithFileLineAndField) {
+    const Spoiling kRows[] = {
         {"constants.csv", ",28.96,", ",28,96,", ": has 11 fields where the heading has 10"},
         {"constants.csv", ",28.96,", ",28.96x,",
          "field molecular_weight_kg_per_kmol: '28.96x' is not a number"},
@@ -94,12 +60,13 @@ TEST_F(SpoiledData, IsRefusedWithFileLineAndField) {
         {"vapor_pressure.csv", ",59.15,132.45,", ",132.45,59.15,",
          "field t_max_K: must be greater than t_min_K"},
     };
-    for (const Row& row : kRows) {
-        const std::string message = MessageAfter(row.file, row.from, row.to);
+    for (const Spoiling& row : kRows) {
+        const std::string message = MessageAfter(HYDROFACTS_FLUID_DATA, row, ReadReferenceData);
         EXPECT_THAT(message, ::testing::HasSubstr(row.message));
         EXPECT_THAT(message, ::testing::HasSubstr(std::string(row.file) + ":"));
     }
-    EXPECT_EQ("", MessageAfter("fluids.csv", "\n", "\r\n"));
+    EXPECT_EQ("", MessageAfter(HYDROFACTS_FLUID_DATA, {"fluids.csv", "\n", "\r\n", ""},
+                               ReadReferenceData));
 }
 
 // Toluene at 300 K by hand from its published coefficients.
@@ -296,14 +263,6 @@ TEST(CheckPoints, SayWhichOfThemTheFitHasSeen) {
     }
     EXPECT_EQ(12, counts["fit"]);
     EXPECT_EQ(12, counts["check"]);
-}
-
-// PR at the critical point: Tc = 190.564 K, Pc = 4599 kPa, acentric factor 0.0115, by hand.
-TEST(VaporDensity, IsTheLibrarysOwnEquation) {
-    const CFormula equation = EquationFormula(2, Fluid("Methane").constants);
-    EXPECT_NEAR(0.0268033, equation.m_coefficients[1], 1e-6);
-    EXPECT_NEAR(249.59, equation.m_coefficients[2], 0.01);
-    EXPECT_NEAR(0.392340, equation.m_coefficients[3], 1e-6);
 }
 
 /// A sound table, spoiled and checked.
