@@ -28,12 +28,10 @@ void* Count(std::size_t size) {
 
 }  // namespace
 
+// Those for arrays call these.
 void* operator new(std::size_t size) { return Count(size); }
-void* operator new[](std::size_t size) { return Count(size); }
 void operator delete(void* memory) noexcept { Release(memory); }
-void operator delete[](void* memory) noexcept { Release(memory); }
 void operator delete(void* memory, std::size_t) noexcept { Release(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { Release(memory); }
 
 namespace {
 

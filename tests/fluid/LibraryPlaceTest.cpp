@@ -25,29 +25,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// LibraryFile is the file that a function of the library lies in.
 #ifdef _WIN32
+using Handle = HMODULE;
 
-// The file that a function of the library lies in.
 fs::path LibraryFile() {
     char path[MAX_PATH];
     GetModuleFileNameA(GetModuleHandleA("hydrofacts.dll"), path, sizeof path);
     return path;
 }
 
-class Library {
-  public:
-    explicit Library(const fs::path& file) : handle_(LoadLibraryA(file.string().c_str())) {}
-    ~Library() { FreeLibrary(handle_); }
-    template <typename Function>
-    Function Find(const char* name) const {
-        return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(handle_, name)));
-    }
-
-  private:
-    HMODULE handle_;
-};
-
+Handle Open(const fs::path& file) { return LoadLibraryA(file.string().c_str()); }
+void Close(Handle handle) { FreeLibrary(handle); }
+void* Symbol(Handle handle, const char* name) {
+    return reinterpret_cast<void*>(GetProcAddress(handle, name));
+}
 #else
+using Handle = void*;
 
 fs::path LibraryFile() {
     Dl_info info{};
@@ -55,22 +49,9 @@ fs::path LibraryFile() {
     return fs::canonical(info.dli_fname);
 }
 
-class Library {
-  public:
-    explicit Library(const fs::path& file)
-        : handle_(::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL)) {
-        EXPECT_NE(handle_, nullptr);
-    }
-    ~Library() { ::dlclose(handle_); }
-    template <typename Function>
-    Function Find(const char* name) const {
-        return reinterpret_cast<Function>(::dlsym(handle_, name));
-    }
-
-  private:
-    void* handle_;
-};
-
+Handle Open(const fs::path& file) { return ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL); }
+void Close(Handle handle) { ::dlclose(handle); }
+void* Symbol(Handle handle, const char* name) { return ::dlsym(handle, name); }
 #endif
 
 // A copy of the library, loaded from a folder of its own, besides the one that the tests use.
@@ -82,49 +63,48 @@ class LibraryPlace : public ::testing::Test {
         fs::copy_file(LibraryFile(), file_);
     }
 
-    static std::string Message(const Library& library) {
-        char text[160] = "";
-        const auto get =
-            library.Find<int (*)(unsigned, char*, int)>("_Z21Hydrofacts_GetMessagejPci");
-        EXPECT_NE(get, nullptr);
-        if (get != nullptr) get(2, text, sizeof text);
+    // What a function of the freshly loaded copy writes into a text.
+    template <typename Call>
+    std::string Told(const char* function, Call call) const {
+        char text[260] = "";
+        const Handle library = Open(file_);
+        void* found = library != nullptr ? Symbol(library, function) : nullptr;
+        EXPECT_NE(found, nullptr) << function;
+        if (found != nullptr) call(found, text);
+        if (library != nullptr) Close(library);
         return text;
     }
-
-    static std::string Tables(const Library& library) {
-        char path[260] = "";
-        const auto get =
-            library.Find<void (*)(DirTypes, char*, int)>("_Z12GetDirectory8DirTypesPci");
-        EXPECT_NE(get, nullptr);
-        if (get != nullptr) get(DIR_TABLES, path, 0);
-        return path;
+    std::string Message() const {
+        return Told("_Z21Hydrofacts_GetMessagejPci", [](void* get, char* text) {
+            reinterpret_cast<int (*)(unsigned, char*, int)>(get)(2, text, 160);
+        });
+    }
+    fs::path Tables() const {
+        return Told("_Z12GetDirectory8DirTypesPci", [](void* get, char* text) {
+            reinterpret_cast<void (*)(DirTypes, char*, int)>(get)(DIR_TABLES, text, 0);
+        });
     }
 
     TempFolder folder_;
     fs::path file_;
 };
 
-TEST_F(LibraryPlace, LanguageFileBesideTheLibraryIsUsed) {
-    folder_.Write("lib/HYDROFACTS_LANGUAGE_c.DAT",
-                  "IDS\t09-01\r\n2\t\"\"\"From the file\"\"\"\r\n");
-    EXPECT_EQ(Message(Library(file_)), "From the file");
-}
-
-TEST_F(LibraryPlace, MissingOrDamagedLanguageFileLeavesTheBuiltInTexts) {
-    constexpr const char* kBuiltIn =
-        "Liquid properties are not available at the specified temperature.";
-    EXPECT_EQ(Message(Library(file_)), kBuiltIn);
-    folder_.Write("lib/HYDROFACTS_LANGUAGE_c.DAT", "2\t\"\"\"From the file\"\"\"\r\n");
-    EXPECT_EQ(Message(Library(file_)), kBuiltIn);
+TEST_F(LibraryPlace, LanguageFileBesideTheLibraryIsUsedUnlessItIsDamaged) {
+    const std::string builtIn = "Liquid properties are not available at the specified temperature.";
+    EXPECT_EQ(Message(), builtIn);
+    const std::string line = "2\t\"\"\"From the file\"\"\"\r\n";
+    folder_.Write("lib/HYDROFACTS_LANGUAGE_c.DAT", line);
+    EXPECT_EQ(Message(), builtIn);
+    folder_.Write("lib/HYDROFACTS_LANGUAGE_c.DAT", "IDS\t09-01\r\n" + line);
+    EXPECT_EQ(Message(), "From the file");
 }
 
 TEST_F(LibraryPlace, TablesAreFoundFromTheLibrarysOwnFolder) {
-    const auto found = [this] { return fs::path(Tables(Library(file_))); };
-    EXPECT_EQ(found(), "");
+    EXPECT_EQ(Tables(), "");
     fs::create_directory(folder_.Path("lib/tables"));
-    EXPECT_TRUE(fs::equivalent(found(), folder_.Path("lib/tables")));
+    EXPECT_TRUE(fs::equivalent(Tables(), folder_.Path("lib/tables")));
     fs::create_directory(folder_.Path("tables"));
-    EXPECT_TRUE(fs::equivalent(found(), folder_.Path("tables")));
+    EXPECT_TRUE(fs::equivalent(Tables(), folder_.Path("tables")));
 }
 
 }  // namespace

@@ -19,8 +19,6 @@ class TestFluid : public CFluid {
     using CFluid::FormulasAreValid;
     using CFluid::FormulasExist;
     using CFluid::LoadFluidTable;
-    using CFluid::m_bOwnsUnits;
-    using CFluid::m_criticalPres;
     using CFluid::m_criticalTemp;
     using CFluid::m_formulas;
     using CFluid::m_molecularWt;
@@ -28,8 +26,6 @@ class TestFluid : public CFluid {
     using CFluid::m_pUnits;
     using CFluid::m_state;
     using CFluid::m_vaporMaxPres;
-    using CFluid::UserPres;
-    using CFluid::UserTemp;
 };
 
 /// The text of a fluid table. As it stands its properties are easily worked out by hand: saturation
@@ -45,11 +41,10 @@ struct FluidText {
         "P4\t1\t2.123456\t-0.001", "P5\t1", "P6\t1\t0.01\t0.00001",
         "P7\t1\t33.2576",
     };
-    std::string lineEnd = "\r\n";
 
     std::string Text() const {
-        std::string text = title + lineEnd + version + lineEnd + constants + lineEnd;
-        for (const std::string& formula : formulas) text += formula + lineEnd;
+        std::string text = title + "\r\n" + version + "\r\n" + constants + "\r\n";
+        for (const std::string& formula : formulas) text += formula + "\r\n";
         return text;
     }
 };
