@@ -23,12 +23,9 @@ TEST(TableNote, ShowsTitleAndVersionOfTheFirstTwoLines) {
         {"S|\"Water\"\nV|\"1.2\"|x|3|5\nD|1\n", "Water - vers 1.2"},
         {"S||Water\nV|1.2\n", "Water - vers 1.2"},
         {"S|\"Water\"\nD|1\nV|\"1.2\"\n", "Water"},
-        {"S|\"Water\"\nV\n", "Water"},
         {"S|\"Water\"\nV|\"1.2\"", "Water"},  // a last line without an end doesn't count
         {"S\nV|\"1.2\"\n", " - vers 1.2"},
-        {"\nS|\"Water\"\nV|\"1.2\"\n", ""},
         {"s|\"Water\"\nV|\"1.2\"\n", ""},
-        {"S|\"Water\"", ""},
         {"", ""},
         {"S|" + longest + "more\nV|\"1.2\"\n", longest + "m - vers 1.2"},
     };
