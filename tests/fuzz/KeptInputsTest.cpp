@@ -30,43 +30,26 @@ std::vector<fs::path> KeptFor(const Target& target) {
     return files;
 }
 
-std::vector<std::uint8_t> Content(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-/// What the command prints is not this program's output.
-class Quiet {
-  public:
-    Quiet() : kept_(::dup(STDOUT_FILENO)) {
-        const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-        ::dup2(nowhere, STDOUT_FILENO);
-        ::close(nowhere);
-    }
-    ~Quiet() {
-        std::fflush(stdout);
-        ::dup2(kept_, STDOUT_FILENO);
-        ::close(kept_);
-    }
-    Quiet(const Quiet&) = delete;
-    Quiet& operator=(const Quiet&) = delete;
-
-  private:
-    const int kept_;
-};
-
 class KeptInputs : public ::testing::TestWithParam<Target> {};
 
 TEST_P(KeptInputs, BreakNothing) {
     const auto files = KeptFor(GetParam());
     ASSERT_FALSE(files.empty());
+    // What the command prints is not this program's output.
+    const int kept = ::dup(STDOUT_FILENO);
+    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    ::dup2(nowhere, STDOUT_FILENO);
     for (const fs::path& file : files) {
-        const auto content = Content(file);
         // Named before the run, which may end the process.
         std::fprintf(stderr, "%s\n", file.c_str());
-        const Quiet quiet;
+        std::ifstream stream(file, std::ios::binary);
+        const std::vector<std::uint8_t> content{std::istreambuf_iterator<char>(stream), {}};
         GetParam().run(content);
     }
+    std::fflush(stdout);
+    ::dup2(kept, STDOUT_FILENO);
+    ::close(nowhere);
+    ::close(kept);
 }
 
 INSTANTIATE_TEST_SUITE_P(, KeptInputs,
