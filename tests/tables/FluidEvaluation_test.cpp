@@ -5,7 +5,6 @@
 
 #include <bit>
 #include <cstdint>
-#include <string>
 
 #include "InstalledTables.h"
 #include "PlainFluid.h"
@@ -13,33 +12,10 @@
 
 namespace {
 
-std::uint64_t Bits(double value) { return std::bit_cast<std::uint64_t>(value); }
-
-/// Compares one fluid at one set point; counts what it has compared.
-struct Comparison {
-    const plain::Fluid& table;
-    std::string where;
-    int points = 0;
-
-    void Same(const char* what, double expected, double actual) const {
-        EXPECT_EQ(Bits(expected), Bits(actual))
-            << where << ' ' << what << ": " << expected << ", " << actual;
-    }
-
-    void Liquid(const CFluid& fluid, double t) {
-        Same("density", table.LiquidDensity(t), fluid.GetDensity());
-        Same("viscosity", plain::FourDigits(table.LiquidViscosity(t)), fluid.GetViscosity());
-        Same("vapor pressure", table.VaporPressure(t), fluid.GetVaporPres());
-        ++points;
-    }
-
-    void Vapor(const CFluid& fluid, double t, double p) {
-        Same("density", table.VaporDensity(t, p), fluid.GetDensity());
-        Same("viscosity", plain::FourDigits(table.VaporViscosity(t)), fluid.GetViscosity());
-        Same("k", plain::FourDigits(table.RatioOfSpecificHeats(t)), fluid.GetSpHeat());
-        ++points;
-    }
-};
+void Same(const char* what, double expected, double actual) {
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(expected), std::bit_cast<std::uint64_t>(actual))
+        << what << ": " << expected << ", " << actual;
+}
 
 TEST(FluidEvaluation, IsThatOfThePlainFormulasToTheLastBit) {
     constexpr int kTemperatures = 12;
@@ -52,9 +28,19 @@ TEST(FluidEvaluation, IsThatOfThePlainFormulasToTheLastBit) {
         const auto compare = [&](double t, double p, FLUIDSTATE state, int& count) {
             ASSERT_EQ(0, fluid.SetFluid(folder.data(), name.c_str(), t, p)) << name;
             if (fluid.GetFluidState() != state) return;
-            Comparison at{table, name + " at " + std::to_string(t) + " K, " + std::to_string(p)};
-            state == FLUID_LIQUID ? at.Liquid(fluid, t) : at.Vapor(fluid, t, p);
-            count += at.points;
+            SCOPED_TRACE(name + " at " + std::to_string(t) + " K, " + std::to_string(p));
+            const bool liquid = state == FLUID_LIQUID;
+            Same("density", liquid ? table.LiquidDensity(t) : table.VaporDensity(t, p),
+                 fluid.GetDensity());
+            Same("viscosity",
+                 plain::FourDigits(liquid ? table.LiquidViscosity(t) : table.VaporViscosity(t)),
+                 fluid.GetViscosity());
+            if (liquid) {
+                Same("vapor pressure", table.VaporPressure(t), fluid.GetVaporPres());
+            } else {
+                Same("k", plain::FourDigits(table.RatioOfSpecificHeats(t)), fluid.GetSpHeat());
+            }
+            ++count;
         };
         for (int i = 0; i <= kTemperatures; ++i) {
             const double part = static_cast<double>(i) / kTemperatures;

@@ -24,14 +24,6 @@ class TableFluid : public CFluid {
 
     bool Has(FLUIDSTATE state) { return FormulasExist(state); }
 
-    /// Puts another equation of state in, with the fluid's own constants.
-    void UseEquation(int type) {
-        std::string record = "P5\t" + std::to_string(type) + "\t" +
-                             std::to_string(m_formulas[SLOT_VAPOR_DENSITY].m_coefficients[0]);
-        EXPECT_EQ(0, m_formulas[SLOT_VAPOR_DENSITY].LoadFormula(SLOT_VAPOR_DENSITY, record.data(),
-                                                                m_criticalTemp, m_criticalPres));
-    }
-
     double LiquidMin() const { return m_liquidMinTemp; }
     double LiquidMax() const { return m_liquidMaxTemp; }
     double VaporMin() const { return m_vaporMinTemp; }
@@ -57,46 +49,22 @@ void ExpectWithin(double percent, double expected, double actual, const char* wh
     EXPECT_NEAR(expected, actual, std::fabs(expected) * percent / 100.0) << what;
 }
 
-// Saturated water after the formulations of IAPWS, as the common steam tables print it:
-// temperature, vapor pressure, density, viscosity.
+// Saturated water: the common steam tables (IAPWS), and rows of check_saturation.csv
+// (CoolProp 8.0.1) that the fits of water leave out.
 TEST(FluidTables, WaterAgreesWithTheSteamTables) {
-    struct Row {
-        double celsius, kPa, density, viscosity;
-    };
-    constexpr Row kRows[] = {
-        {0.01, 0.61165, 999.79, 1.7911},  {20.0, 2.3393, 998.16, 1.0016},
-        {25.0, 3.1699, 997.00, 0.89004},  {50.0, 12.352, 988.00, 0.54652},
-        {75.0, 38.595, 974.83, 0.37740},  {100.0, 101.42, 958.35, 0.28158},
-        {150.0, 476.16, 917.01, 0.18261},
-    };
-    TableFluid water("Water");
-    for (const Row& row : kRows) {
-        SCOPED_TRACE(row.celsius);
-        const double kelvin = row.celsius + 273.15;
-        ASSERT_EQ(FLUID_LIQUID, water.At(kelvin, 1.01 * row.kPa));
-        ExpectWithin(0.05, row.kPa, water.GetVaporPres(), "vapor pressure");
-        ExpectWithin(0.05, row.density, water.GetDensity(), "density");
-        ExpectWithin(0.5, row.viscosity, water.GetViscosity(kelvin), "viscosity");
-    }
-}
-
-// Rows of check_saturation.csv (CoolProp 8.0.1), which the fits of water leave out.
-TEST(FluidTables, WaterKeepsItsAccuracyWhereTheFitHadNoPoints) {
     struct Row {
         double kelvin, kPa, density, viscosity;
     };
     constexpr Row kRows[] = {
-        {288.2024, 1.711558457, 999.0482031, 1.136045831},
-        {303.2438, 4.269892097, 995.5778249, 0.7956339801},
-        {318.2851, 9.661855404, 990.1162183, 0.5943283736},
-        {333.3265, 20.10993319, 983.0693908, 0.4647744702},
-        {348.3679, 38.9485977, 974.684773, 0.3763262907},
-        {363.4093, 70.87576774, 965.1211116, 0.3132383143},
-        {378.4506, 122.1665756, 954.4816435, 0.2666727087},
-        {393.492, 200.8359681, 942.8307781, 0.2313277406},
-        {408.5334, 316.7381509, 930.2036212, 0.2038568188},
-        {438.6162, 709.0719578, 902.0393994, 0.1644340754},
-        {468.6989, 1415.331939, 869.8028985, 0.1378046686},
+        {273.16, 0.61165, 999.79, 1.7911},        {293.15, 2.3393, 998.16, 1.0016},
+        {298.15, 3.1699, 997.00, 0.89004},        {323.15, 12.352, 988.00, 0.54652},
+        {348.15, 38.595, 974.83, 0.37740},        {373.15, 101.42, 958.35, 0.28158},
+        {423.15, 476.16, 917.01, 0.18261},        {288.2024, 1.711558, 999.0482, 1.13605},
+        {303.2438, 4.269892, 995.5778, 0.795634}, {318.2851, 9.661855, 990.1162, 0.594328},
+        {333.3265, 20.10993, 983.0694, 0.464774}, {348.3679, 38.9486, 974.6848, 0.376326},
+        {363.4093, 70.87577, 965.1211, 0.313238}, {378.4506, 122.1666, 954.4816, 0.266673},
+        {393.492, 200.836, 942.8308, 0.231328},   {408.5334, 316.7382, 930.2036, 0.203857},
+        {438.6162, 709.072, 902.0394, 0.164434},  {468.6989, 1415.332, 869.8029, 0.137805},
     };
     TableFluid water("Water");
     for (const Row& row : kRows) {
@@ -145,16 +113,13 @@ TEST(FluidTables, LiquidsAgreeWithTheHandbooks) {
 
 // Viscosity of liquids at 25 degrees Celsius, CRC Handbook, and of R-134a, ASHRAE Fundamentals.
 TEST(FluidTables, LiquidViscosityAgreesWithTheHandbooks) {
-    struct Row {
-        const char* name;
-        double viscosity;
-    };
-    for (const Row& row : {Row{"Methanol", 0.544}, Row{"Ethanol", 1.074}, Row{"Toluene", 0.560},
-                           Row{"R-134a", 0.195}, Row{"Benzene", 0.604}, Row{"Hexane", 0.300},
-                           Row{"1-Butanol", 2.54}, Row{"Ethylene glycol", 16.1}}) {
-        TableFluid fluid(row.name);
-        ASSERT_EQ(FLUID_LIQUID, fluid.At(298.15, 800.0)) << row.name;
-        ExpectWithin(5.0, row.viscosity, fluid.GetViscosity(), row.name);
+    constexpr std::pair<const char*, double> kRows[] = {
+        {"Methanol", 0.544}, {"Ethanol", 1.074}, {"Toluene", 0.560},  {"R-134a", 0.195},
+        {"Benzene", 0.604},  {"Hexane", 0.300},  {"1-Butanol", 2.54}, {"Ethylene glycol", 16.1}};
+    for (const auto& [name, viscosity] : kRows) {
+        TableFluid fluid(name);
+        ASSERT_EQ(FLUID_LIQUID, fluid.At(298.15, 800.0)) << name;
+        ExpectWithin(5.0, viscosity, fluid.GetViscosity(), name);
     }
 }
 
@@ -189,18 +154,6 @@ TEST(FluidTables, AirHasABandOfTwoPhases) {
     EXPECT_EQ(FLUID_VAPOR, air.At(100.0, 540.0));
 }
 
-/// Calls use(temperature) at temperatures over a range, both ends included. The steps are not
-/// round, since exactly at the critical temperature a pure fluid has no state.
-template <class Use>
-void Over(double from, double to, Use use) {
-    constexpr int kSteps = 40;
-    use(from);
-    for (int i = 1; i < kSteps; ++i) {
-        use(from + (to - from) * (i + 0.0123) / kSteps);
-    }
-    use(to);
-}
-
 /// Calls use(fluid) for each installed fluid, loaded.
 template <class Use>
 void ForEachFluid(Use use) {
@@ -215,48 +168,19 @@ void ForEachFluid(Use use) {
     }
 }
 
-/// The highest pressure of a vapor at a temperature, kPa.
-double VaporEnd(const TableFluid& fluid, double kelvin) {
-    return kelvin < fluid.GetCriticalTemp()
-               ? std::min(fluid.VaporMaxPressure(), 0.99 * fluid.DewPressure(kelvin))
-               : fluid.VaporMaxPressure();
-}
-
-TEST(FluidTables, StatesFillTheRangesAndEndWithThem) {
-    ForEachFluid([](TableFluid& fluid, const std::string&) {
-        if (fluid.Has(FLUID_LIQUID)) {
-            Over(fluid.LiquidMin(), fluid.LiquidMax(), [&](double t) {
-                const double pressure = 1.01 * fluid.BubblePressure(t);
-                ASSERT_EQ(FLUID_LIQUID, fluid.At(t, pressure)) << t;
-                ASSERT_EQ(1, fluid.SetPointIsValid(t, pressure)) << t;
-            });
-            EXPECT_EQ(FLUID_NONE, fluid.At(fluid.LiquidMin() - 0.01, 100.0));
-        }
-        if (fluid.Has(FLUID_VAPOR)) {
-            Over(fluid.VaporMin(), fluid.VaporMax(), [&](double t) {
-                const double end = VaporEnd(fluid, t);
-                for (const double pressure : {0.01 * end, 0.5 * end, end}) {
-                    ASSERT_EQ(FLUID_VAPOR, fluid.At(t, pressure)) << t << ' ' << pressure;
-                    ASSERT_EQ(1, fluid.SetPointIsValid(t, pressure)) << t << ' ' << pressure;
-                }
-            });
-            const double hot = fluid.VaporMax();
-            EXPECT_EQ(FLUID_NONE, fluid.At(hot, 1.001 * fluid.VaporMaxPressure()));
-            EXPECT_EQ(FLUID_NONE, fluid.At(hot + 0.01, 100.0));
-        }
-    });
-}
-
 // The state is what the saturation curves say, wherever the formulas of that state hold; inside the
 // ranges and around them.
 TEST(FluidTables, TheStateFoundIsTheOneThatIsValid) {
+    constexpr int kSteps = 40;
     ForEachFluid([](TableFluid& fluid, const std::string&) {
         const double tc = fluid.GetCriticalTemp();
         const double pc = fluid.GetCriticalPres();
         const bool hasLiquid = fluid.Has(FLUID_LIQUID);
         const double first = hasLiquid ? fluid.LiquidMin() : fluid.VaporMin();
         const double last = fluid.Has(FLUID_VAPOR) ? fluid.VaporMax() : fluid.LiquidMax();
-        Over(0.95 * first, 1.05 * last, [&](double t) {
+        for (int i = 0; i <= kSteps; ++i) {
+            // Not round, since exactly at the critical temperature a pure fluid has no state.
+            const double t = std::lerp(0.95 * first, 1.05 * last, (i + 0.0123) / kSteps);
             const bool outside = (hasLiquid && t < first) || t > last;
             for (double pressure = 1e-3 * pc; pressure < 2.0 * pc; pressure *= 1.7) {
                 FLUIDSTATE expected = FLUID_NONE;
@@ -272,68 +196,10 @@ TEST(FluidTables, TheStateFoundIsTheOneThatIsValid) {
                 }
                 ASSERT_EQ(expected, fluid.At(t, pressure)) << t << " K, " << pressure << " kPa";
             }
-        });
-    });
-}
-
-TEST(FluidTables, LiquidsGoTheWayOfNature) {
-    ForEachFluid([](TableFluid& fluid, const std::string& name) {
-        double lastPressure = 0.0;
-        double lastDensity = INFINITY;
-        double lastViscosity = INFINITY;
-        if (!fluid.Has(FLUID_LIQUID)) {
-            return;
         }
-        Over(fluid.LiquidMin(), fluid.LiquidMax(), [&](double t) {
-            ASSERT_EQ(FLUID_LIQUID, fluid.At(t, 1.01 * fluid.BubblePressure(t))) << t;
-            EXPECT_GT(fluid.GetVaporPres(), lastPressure) << t;
-            EXPECT_LT(fluid.GetViscosity(t), lastViscosity) << t;
-            EXPECT_GT(fluid.GetViscosity(t), 0.0) << t;
-            // Water is densest at 4 degrees Celsius.
-            EXPECT_TRUE(fluid.GetDensity() < lastDensity || (name == "Water" && t < 282.2)) << t;
-            EXPECT_GT(fluid.GetDensity(), 0.0) << t;
-            lastPressure = fluid.GetVaporPres();
-            lastViscosity = fluid.GetViscosity(t);
-            lastDensity = fluid.GetDensity();
-        });
-    });
-}
-
-TEST(FluidTables, VaporsGoTheWayOfNature) {
-    ForEachFluid([](TableFluid& fluid, const std::string&) {
-        double lastViscosity = 0.0;
-        if (!fluid.Has(FLUID_VAPOR)) {
-            return;
-        }
-        Over(fluid.VaporMin(), fluid.VaporMax(), [&](double t) {
-            const double pressure = 1e-4 * std::min(fluid.VaporMaxPressure(), fluid.DewPressure(t));
-            ASSERT_EQ(FLUID_VAPOR, fluid.At(t, pressure)) << t;
-            EXPECT_GT(fluid.GetViscosity(t), lastViscosity) << t;
-            EXPECT_GT(fluid.GetSpHeat(t), 1.0) << t;
-            // A gas of one atom has 5/3, none has more.
-            EXPECT_LT(fluid.GetSpHeat(t), 1.68) << t;
-            // A thin gas is ideal: p M / (R T).
-            const double ideal = pressure * fluid.GetMolecularWt() / (8.3144 * t);
-            ExpectWithin(0.1, ideal, fluid.GetDensity(), "density of a thin gas");
-            lastViscosity = fluid.GetViscosity(t);
-        });
-    });
-}
-
-// Whatever the equation, the nearer to no pressure, the nearer to an ideal gas.
-TEST(FluidTables, CompressibilityTendsToOneWithEveryEquation) {
-    ForEachFluid([](TableFluid& fluid, const std::string&) {
-        if (!fluid.Has(FLUID_VAPOR)) {
-            return;
-        }
-        for (int type = 1; type <= 4; ++type) {
-            fluid.UseEquation(type);
-            Over(fluid.VaporMin(), fluid.VaporMax(), [&](double t) {
-                const double end = std::min(fluid.VaporMaxPressure(), fluid.DewPressure(t));
-                EXPECT_NEAR(1.0, fluid.CalcZ(t, 1e-3 * end, true), 2e-3) << type << ' ' << t;
-                EXPECT_NEAR(1.0, fluid.CalcZ(t, 1e-6 * end, true), 3e-5) << type << ' ' << t;
-                EXPECT_EQ(1.0, fluid.CalcZ(t, 0.0, true)) << type << ' ' << t;
-            });
+        if (fluid.Has(FLUID_VAPOR) && last > tc) {
+            EXPECT_EQ(FLUID_VAPOR, fluid.At(last, fluid.VaporMaxPressure()));
+            EXPECT_EQ(FLUID_NONE, fluid.At(last, 1.001 * fluid.VaporMaxPressure()));
         }
     });
 }
@@ -342,10 +208,9 @@ TEST(FluidTables, AreTheSameFluidInUSUnits) {
     constexpr double kPsi = 6.894757293168361;  // kPa
     ForEachFluid([](TableFluid& metric, const std::string& name) {
         TableFluid us(name, HF_DEG_F, HF_PSI);
-        const auto compare = [&](double kelvin, double kPa) {
-            const FLUIDSTATE state = metric.At(kelvin, kPa);
+        const auto compare = [&](FLUIDSTATE state, double kelvin, double kPa) {
+            ASSERT_EQ(state, metric.At(kelvin, kPa)) << kelvin << ' ' << kPa;
             ASSERT_EQ(state, us.At(kelvin * 1.8 - 459.67, kPa / kPsi)) << kelvin << ' ' << kPa;
-            ASSERT_NE(FLUID_NONE, state) << kelvin << ' ' << kPa;
             ExpectWithin(0.1, metric.GetUDensity() / 16.018463, us.GetUDensity(), "density");
             ExpectWithin(0.1, metric.GetViscosity(), us.GetViscosity(), "viscosity");
             if (state == FLUID_LIQUID) {
@@ -353,18 +218,20 @@ TEST(FluidTables, AreTheSameFluidInUSUnits) {
                              "vapor pressure");
             } else {
                 ExpectWithin(0.1, metric.GetSpHeat(), us.GetSpHeat(), "ratio of specific heats");
+                // A gas of one atom has 5/3, none has more.
+                EXPECT_LT(metric.GetSpHeat(), 1.68);
             }
         };
-        for (const double share : {0.1, 0.3, 0.5, 0.7, 0.9}) {
+        for (const double share : {0.1, 0.5, 0.9}) {
             if (metric.Has(FLUID_LIQUID)) {
-                const double t =
-                    metric.LiquidMin() + share * (metric.LiquidMax() - metric.LiquidMin());
-                compare(t, 1.02 * metric.BubblePressure(t));
+                const double t = std::lerp(metric.LiquidMin(), metric.LiquidMax(), share);
+                compare(FLUID_LIQUID, t, 1.02 * metric.BubblePressure(t));
             }
             if (metric.Has(FLUID_VAPOR)) {
-                const double t =
-                    metric.VaporMin() + share * (metric.VaporMax() - metric.VaporMin());
-                compare(t, 0.9 * VaporEnd(metric, t));
+                const double t = std::lerp(metric.VaporMin(), metric.VaporMax(), share);
+                const double end =
+                    t < metric.GetCriticalTemp() ? 0.99 * metric.DewPressure(t) : INFINITY;
+                compare(FLUID_VAPOR, t, 0.9 * std::min(end, metric.VaporMaxPressure()));
             }
         }
     });
