@@ -1,9 +1,8 @@
 # The installed pipe and valve tables, and the checks of the programs that write them.
 add_executable(pipe_tables_test
     ${CMAKE_CURRENT_LIST_DIR}/PipeTables_test.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/PipeTableWriter_test.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/ValveTables_test.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/ValveTableWriter_test.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/PipeValveWriter_test.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/ValveTables_test.cpp)
 target_link_libraries(pipe_tables_test PRIVATE hydrofacts_pipe_table_parts
     hydrofacts_valve_table_parts hydrofacts hydrofacts_test_support)
 target_compile_definitions(pipe_tables_test PRIVATE
