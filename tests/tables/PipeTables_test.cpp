@@ -1,66 +1,41 @@
 // The installed pipe tables, as a host sees them.
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <map>
-#include <sstream>
+#include <string>
+#include <vector>
 
 #include "hydrofacts/pipe/CPipeTableList.h"
-#include "tests/tables/InstalledTables.h"
 
 namespace {
 
-using ::testing::ElementsAre;
+/// Bore and outside diameter by nominal size.
+using Sizes = std::map<double, std::pair<double, double>>;
 
-std::vector<std::string> Names(const char* list) {
-    std::vector<std::string> names;
-    std::istringstream stream(list);
-    for (std::string name; std::getline(stream, name, '\t');) {
-        names.push_back(name);
-    }
-    return names;
-}
-
-std::vector<std::string> Tables(HF_UNITS units) {
-    char buffer[2000] = "";
-    CPipeTableList(units).ListPipeTables(buffer, sizeof buffer, 7.0, 1.0);
-    return Names(buffer);
-}
-
-std::vector<std::string> Schedules(const std::string& table) {
-    char buffer[2000] = "";
-    CPipeTableList(HF_US).ListPipeSchedules(buffer, sizeof buffer, std::string(table).data());
-    return Names(buffer);
-}
-
-/// Shows the rows of a loaded schedule.
 class OpenPipeTable : public CPipeTable {
   public:
     using CPipeTable::CPipeTable;
-    const t_pipe_size* Rows() const { return pipe_list; }
 
-    std::map<double, double> Bores(const std::string& table, const std::string& name) {
-        std::map<double, double> bores;
+    Sizes Load(const std::string& table, const std::string& name) {
+        Sizes sizes;
         EXPECT_TRUE(LoadMaterial(nullptr, table.c_str())) << table;
-        EXPECT_TRUE(LoadPipeList(name.c_str(), nullptr)) << name;
-        for (const t_pipe_size* row = Rows(); row != nullptr; row = row->next) {
-            bores[row->nominal] = row->inside_dia;
+        EXPECT_TRUE(LoadPipeList(name.c_str(), nullptr)) << table << ' ' << name;
+        for (const t_pipe_size* row = pipe_list; row != nullptr; row = row->next) {
+            sizes[row->nominal] = {row->inside_dia, row->second_dim};
         }
-        return bores;
+        return sizes;
     }
 };
 
-TEST(PipeTables, AllAreListedInBothSystemsForEveryHost) {
-    EXPECT_EQ(23U, Tables(HF_US).size());
-    EXPECT_EQ(23U, Tables(HF_METRIC).size());
-}
-
-TEST(PipeTables, SchedulesStandInTheirUsualOrder) {
-    EXPECT_THAT(Schedules("Steel B36.10M"),
-                ElementsAre("5", "10", "20", "30", "40", "60", "80", "100", "120", "140", "160",
-                            "STD", "XS", "XXS"));
-    EXPECT_THAT(Schedules("Copper Tube B88"), ElementsAre("Type K", "Type L", "Type M"));
+TEST(PipeTables, AreListedForEveryHostWithSchedulesInTheirUsualOrder) {
+    char text[2000] = "";
+    for (const HF_UNITS units : {HF_US, HF_METRIC}) {
+        const CPipeTableList list(units);
+        EXPECT_EQ(23, list.ListPipeTables(text, sizeof text, 7.0, 1.0));
+        list.ListPipeSchedules(text, sizeof text, "Steel B36.10M");
+        EXPECT_STREQ("5\t10\t20\t30\t40\t60\t80\t100\t120\t140\t160\tSTD\tXS\tXXS", text);
+    }
 }
 
 // Outside diameter and wall of each from the standard in the table's name: the bore is what they
@@ -99,15 +74,12 @@ TEST(PipeTables, BoresAreThoseOfTheStandards) {
     };
     // clang-format on
     for (const Case& c : cases) {
-        OpenPipeTable pipe(c.units);
-        ASSERT_TRUE(pipe.LoadMaterial(nullptr, c.table)) << c.table;
-        ASSERT_TRUE(pipe.LoadPipeList(c.schedule, nullptr)) << c.table << ' ' << c.schedule;
-        EXPECT_NEAR(c.outside - 2.0 * c.wall, pipe.PipeDia(c.nominal), 1e-9)
-            << c.table << ' ' << c.schedule << ' ' << c.nominal;
-        const t_pipe_size* row = pipe.Rows();
-        while (row != nullptr && row->nominal != c.nominal) row = row->next;
-        ASSERT_NE(nullptr, row);
-        EXPECT_EQ(c.outside, row->second_dim) << c.table << ' ' << c.nominal;
+        SCOPED_TRACE(std::string(c.table) + ' ' + c.schedule + ' ' + std::to_string(c.nominal));
+        const Sizes sizes = OpenPipeTable(c.units).Load(c.table, c.schedule);
+        ASSERT_TRUE(sizes.contains(c.nominal));
+        const auto [bore, outside] = sizes.at(c.nominal);
+        EXPECT_NEAR(c.outside - 2.0 * c.wall, bore, 1e-9);
+        EXPECT_EQ(c.outside, outside);
     }
 }
 
@@ -134,15 +106,14 @@ TEST(PipeTables, HeavierSchedulesAreNarrower) {
         {"PE100 ISO 4427", "SDR 17", "SDR 13.6", "SDR 11", "SDR 9", "SDR 7.4"},
     };
     for (const std::vector<std::string>& names : lightToHeavy) {
-        std::map<double, double> widest;
+        Sizes lighter;
         for (std::size_t i = 1; i < names.size(); ++i) {
-            for (const auto& [nominal, bore] : OpenPipeTable(HF_METRIC).Bores(names[0], names[i])) {
-                const auto lighter = widest.find(nominal);
-                if (lighter != widest.end()) {
-                    EXPECT_LE(bore, lighter->second)
+            for (const auto& [nominal, size] : OpenPipeTable(HF_METRIC).Load(names[0], names[i])) {
+                if (lighter.contains(nominal)) {
+                    EXPECT_LE(size.first, lighter.at(nominal).first)
                         << names[0] << ' ' << names[i] << ' ' << nominal;
                 }
-                widest[nominal] = bore;
+                lighter[nominal] = size;
             }
         }
     }
