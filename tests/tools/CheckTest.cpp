@@ -88,14 +88,12 @@ class TableCheck : public ::testing::Test {
             text.replace(place, std::string_view(damage.from).size(), damage.to);
             SCOPED_TRACE(text);
             const auto findings = Check(name, TableText(text));
-            EXPECT_EQ(findings.size(), 1U) << Shown(findings);
-            if (findings.empty()) continue;
-            const Finding& finding = findings.front();
+            ASSERT_EQ(findings.size(), 1U) << Shown(findings);
             const bool warning = *damage.reason == '!';
-            EXPECT_EQ(finding.line, damage.line);
-            EXPECT_EQ(finding.field, damage.field);
-            EXPECT_EQ(finding.warning, warning);
-            EXPECT_THAT(finding.reason, HasSubstr(damage.reason + (warning ? 1 : 0)));
+            EXPECT_EQ(findings[0].line, damage.line);
+            EXPECT_EQ(findings[0].field, damage.field);
+            EXPECT_EQ(findings[0].warning, warning);
+            EXPECT_THAT(findings[0].reason, HasSubstr(damage.reason + (warning ? 1 : 0)));
         }
     }
 
@@ -112,8 +110,6 @@ TEST_F(TableCheck, FindsWhatIsWrongWithLinesOfAnyTable) {
                     {"V|", "* a remark ahead\nV|", 3, 0, "!not the second line"},
                     {"|1|7", "", 2, 4, "!levels"},
                     {"|1|7", "|1", 2, 5, "!high level: the field is missing"},
-                    {"|1|7", "|1,5|7", 2, 4, "read as 1: the decimal sign is a point"},
-                    {"|1|7", "|x|7", 2, 4, "\"x\" is not a number"},
                     {"|1|7", "|7|1", 2, 5, "!below the low one"},
                     {"Z|80|1|", " Z|80|1|", 10, 0, "blanks ahead of \"Z\""},
                     {"33.4\n* S", "33.4\n* \xC3\xA9 S", 8, 0, "!UTF-8"},
@@ -132,32 +128,22 @@ TEST_F(TableCheck, FindsWhatReadersOfPipesPassOver) {
         {
             {"|140", "|0", 3, 4, "Hazen-Williams C: it is 0"},
             {"|140", "", 3, 4, "!Hazen-Williams C"},
-            {"0.04572", "0", 3, 3, "absolute roughness (mm): it is 0"},
-            {"0.04572", "abc", 3, 3, "not a number"},
             {"|0.0018", "|-0.0018", 3, 2, "not above 0"},
             {"|140\n", "|140\nR|1|1|1\n", 4, 0, "a second R line"},
             {"R|0.0018|0.04572|140\n", "", 4, 0, "no material record (R)"},
             {"R|0.0018|0.04572|140\n* Sizes of 40\n", "Z|5|1|25|1|1|25|25\nR|0.0018|0.04572|140\n",
              4, 0, "R behind the first Z row, in line 3"},
             {"|0.622|", "|0|", 5, 5, "inside diameter (in.): it is 0"},
-            {"|15.8|", "|15,8|", 5, 7, "inside diameter (mm): \"15,8\" is read as 15"},
             {"|21.3\n", "|21.3x\n", 5, 8, "\"21.3x\" is read as 21.3"},
             {"|21.3\n", "\n", 5, 8, "second dimension (mm): the field is missing"},
             {"|21.3\n", "|21.3|9\n", 5, 9, "!not read"},
-            {"|21.3\n", "|inf\n", 5, 8, "not a finite number"},
             {"|21.3\n", "|1e999\n", 5, 8, "not a finite number"},
             {"|21.3\n", "| \n", 5, 8, "blanks"},
-            {"|21.3\n", "|0x15\n", 5, 8, "!hexadecimal, 21"},
-            {"|0.5|", "|0.50|", 5, 3, "\"0.50\" is looked up as \"0.5\""},
             {"|0.5|", "|.5|", 5, 3, "looked up as \"0.5\""},
-            {"Z|40|0.75|20|0.824|1.05|20.93|26.7\n", "Z|40|0.75|20|0.824|1.05|20.93|26.7\n* here\n",
-             7, 0, "ends schedule \"40\" between its rows: those from line 8 on"},
             {"Z|40|1|", "\nZ|40|1|", 7, 0, "ends schedule"},
             {"Z|80|1|", "Z|40|1|", 10, 2, "schedule \"40\" has rows further up"},
             {"Z|40|1|", "Z|40|0.75|", 7, 3, "does not ascend"},
-            {"Z|40|1|25|1.049", "Z|40|1|25|0.8", 7, 5, "does not ascend, the row ahead has 0.824"},
             {"|26.64|", "|20.93|", 7, 7, "inside diameter (mm): 20.93 does not ascend"},
-            {"Z|80|1|25|", "Z|80|1|15|", 10, 4, "nominal size (mm): 15 does not ascend"},
             {"* Sizes of 40", "remark", 4, 1, "begins with \"r\""},
             {"* Sizes of 80", "Zinc", 8, 1, "begins with Z"},
             {"* Sizes of 80", "Z", 8, 2, "schedule: the field is missing"},
@@ -173,8 +159,7 @@ TEST_F(TableCheck, FindsWhatReadersOfValvesPassOver) {
         "Valves.VTBL", kValves,
         {
             {"Z|Bend|", "Z|bend|", 7, 2,
-             "\"bend\" is no device type, and the reading ends here; it "
-             "is written Bend"},
+             "is no device type, and the reading ends here; it is written Bend"},
             {"Z|Other|\"Fixed K\"|20", "Z|Bend|\"Large\"|1", 10, 2,
              "\"Bend\" has a group already, from line 7 on"},
             {"Z|Bend|", "Zone 1|x\nZ|Bend|", 7, 1, "\"Zone 1\" begins with Z"},
@@ -184,10 +169,9 @@ TEST_F(TableCheck, FindsWhatReadersOfValvesPassOver) {
             {"\"Gate\"", "\"\"", 8, 3, "it is empty"},
             {"\"Gate\"", "\"SMOOTH\"", 8, 3, "!that of line 7 too"},
             {"\"Gate\"|1|", "\"Gate\"|70000|", 8, 4, "more than 16 bits and is read as 4464"},
-            {"\"Gate\"|1|", "\"Gate\"|010|", 8, 4, "\"010\" is read as 8"},
-            {"\"Gate\"|1|", "\"Gate\"|08|", 8, 4, "a leading 0 marks an octal number"},
+            {"\"Gate\"|1|", "\"Gate\"|010|", 8, 4,
+             "\"010\" is read as 8: a leading 0 marks an octal number"},
             {"\"Gate\"|1|", "\"Gate\"|0|", 8, 4, "it is 0"},
-            {"\"Gate\"|1|0.15", "\"Gate\"|1|0,15", 8, 5, "read as 0: the decimal sign"},
             {"|0.15|0|0|5", "|0.15|0|0", 8, 8, "image number: the field is missing"},
             {"|0.15|0|0|5", "|0.15|0|0|5.5", 8, 8, "\"5.5\" is read as 5"},
             {"|0.15|0|0|5", "|0.15|0|0|0", 8, 8, "image number: it is 0"},
@@ -200,77 +184,49 @@ TEST_F(TableCheck, FindsWhatReadersOfValvesPassOver) {
             {"Z|Fitting|\"Elbow\"|9|0.7", "Z|Fitting|\"Elbow\"|8|0.7", 5, 4, "whose \"9\" counts"},
             {"Z|Fitting|\"Elbow\"|9|0.7", "Z|Bend|\"Elbow\"|9|0.7", 5, 2,
              "whose \"Fitting\" counts"},
-            {"|0|0|13\n", "|0|0|13", 10, 0, "no line end"},
             {"|0|0|13\n", "|0|0|13\nZ|Fitting|\"Late\"|1|1|0|0|1\n", 11, 2, "sixth group"},
         });
 }
 
-TEST_F(TableCheck, FindsEveryCauseOfAnInvalidFluid) {
-    ExpectFound("Fluid.FTBL", kFluid,
-                {
-                    {"V|", "* ", 3, 1, "D stands where V must stand"},
-                    {"V|\"2.1\"|test|1|7\n", "* none\n", 3, 1, "D stands where V must stand"},
-                    {"D|", "* ", 4, 1, "P1 stands where D must stand"},
-                    {"|500|5000", "|5000", 3, 9, "highest vapor pressure: the field is missing"},
-                    {"|5000", "|0", 3, 9, "highest vapor pressure: it is 0"},
-                    {"|8000|", "|8 000,5|", 3, 4, "read as 8"},
-                    {"P2|0\n", "", 5, 1, "P3 stands where P2 must stand"},
-                    {"P2|0\n", "P2|0\nP2|0\n", 6, 1, "P2 stands where P3 must stand"},
-                    {"P2|0\n", "Dew points follow\nP2|0\n", 5, 1, "is taken for the record P2"},
-                    {"P2|0\n", "D|1\nP2|0\n", 5, 1, "D stands where P2 must stand"},
-                    {"P2|0\n", "Pressures\nP2|0\n", 5, 1, "\"Pressures\" begins with P"},
-                    {"P7|1|33.2576\n", "", 9, 0, "ends here without P7"},
-                    {"P1|1|-200|1", "P1|0", 4, 2, "every fluid needs the saturation pressure"},
-                    {"P3|1|1100|-0.5", "P3|1|1|-1", 6, 0, "sum of the coefficients is 0"},
-                    {"P3|1|1100|-0.5", "P3|1|x|-0.5", 6, 3, "\"x\" is not a number"},
-                    {"P3|1|1100|-0.5", "P3|7|1100|-0.5", 6, 2, "type: 7 does not exist for P3"},
-                    {"P5|1|0", "P5|5|0", 8, 2, "P5, which has 1 to 4"},
-                });
-}
-
-TEST_F(TableCheck, FindsWhatIsSuspiciousInAFluid) {
+TEST_F(TableCheck, FindsWhatIsInvalidOrSuspiciousInAFluid) {
     ExpectFound(
-        "Odd.FTBL", kFluid,
+        "Fluid.FTBL", kFluid,
         {
-            {"|1|7", "", 2, 4, "!levels"},
-            {"|450|", "|-450|", 3, 3, "critical temperature: -450 is not above 0"},
+            {"V|", "* ", 3, 1, "D stands where V must stand"},
+            {"|5000", "|0", 3, 9, "highest vapor pressure: it is 0"},
+            {"|500|5000", "|5000", 3, 9, "highest vapor pressure: the field is missing"},
+            {"P2|0\n", "", 5, 1, "P3 stands where P2 must stand"},
+            {"P2|0\n", "P2|0\nP2|0\n", 6, 1, "P2 stands where P3 must stand"},
+            {"P2|0\n", "Dew points follow\nP2|0\n", 5, 1, "is taken for the record P2"},
+            {"P7|1|33.2576\n", "", 9, 0, "ends here without P7"},
+            {"P1|1|-200|1", "P1|0", 4, 2, "every fluid needs the saturation pressure"},
+            {"P3|1|1100|-0.5", "P3|1|1|-1", 6, 0, "sum of the coefficients is 0"},
+            {"P3|1|1100|-0.5", "P3|1|x|-0.5", 6, 3, "\"x\" is not a number"},
+            {"P3|1|1100|-0.5", "P3|7|1100|-0.5", 6, 2, "type: 7 does not exist for P3"},
             {"|280|400|", "|400|280|", 3, 6, "280 K is not above the lowest, 400 K"},
             {"|250|500|", "|250|250|", 3, 8, "250 K is not above the lowest"},
             {"P4|1|5|-0.01", "P4|0", 6, 0, "!P3 is left out, for the liquid formulas"},
             {"P5|1|0", "P5|2", 8, 3, "!acentric factor is missing"},
-            {"P2|0", "P2|0\nP2 of old", 6, 1, "begins with P"},
             {"P7|1|33.2576\n", "P7|1|33.2576\nP8|1\n", 11, 0, "!behind P7 is not read"},
-            // 4 - T / 100 reaches 0 at 400 K, 370 - T at 370 K, between two of the points looked
-            // at.
             {"P4|1|5|", "P4|1|4|", 7, 0, "!liquid viscosity is 0 at 400 K"},
             {"P3|1|1100|-0.5", "P3|1|370.5|-1", 6, 0, "!liquid density is -0.7 at 371.2 K"},
-            // 300 + 200 T - T² / 2 rises to 200 K and falls behind it.
             {"P1|1|-200|1", "P1|1|40000|0.1|-0.1", 4, 0, "!saturation pressure falls from 250 K"},
             {"P7|1|33.2576", "P7|1|8", 10, 0, "!the ratio of specific heats is -25.45 at 250 K"},
-            {"P6|1|0.01", "P6|3|-1", 9, 0, "!vapor viscosity is -0.0001 at 250 K"},
             {"P6|1|0.01", "P6|2|1e-8|1e9", 9, 0, "!vapor viscosity is not a number"},
         });
 }
 
-TEST_F(TableCheck, RowsHaveALimit) {
+TEST_F(TableCheck, SaysWhatIsNoTextOfATable) {
     std::string rows = "S|\"Rows\"\nV|\"1\"|x|1|7\n";
     for (int i = 1; i <= 101; ++i) {
         rows += "Z|Bend|\"B\"|9|1|" + std::to_string(i) + "|" + std::to_string(25 * i) + "|1\n";
     }
-    const auto many = Check("Many.VTBL", TableText(rows));
-    ASSERT_EQ(many.size(), 1U) << Shown(many);
-    EXPECT_EQ(many[0].line, 103U);
-    EXPECT_THAT(many[0].reason, HasSubstr("100 rows"));
-    EXPECT_FALSE(many[0].warning);
-}
-
-TEST_F(TableCheck, SaysWhatIsNoTextOfATable) {
     const struct {
         std::string text;
         const char* reason;
     } cases[] = {
-        {"", "empty"},
-        {"\xFF\xFES", "UTF-16"},
+        {"", "1:0 the file is empty"},
+        {TableText(rows), "100 rows"},
         {std::string("S\0\t\0", 4), "UTF-16"},
         {"\xEF\xBB\xBF" + TableText(kValves), "byte order mark"},
         {TableText("S|\"a\"\nV|\"1\"|x|1|7\n* no record\n"), "no record (Z)"},
@@ -288,67 +244,39 @@ TEST_F(TableCheck, SaysWhatIsNoTextOfATable) {
     EXPECT_THAT(Shown(longName), HasSubstr("0:0 the name has 31 characters"));
 }
 
-TEST_F(TableCheck, KindIsTheExtensionWhateverItsCase) {
-    EXPECT_EQ(KindOf("a.ftbl"), TableFileKind::Fluid);
-    EXPECT_EQ(KindOf("a.PTBL"), TableFileKind::Pipe);
-    EXPECT_EQ(KindOf("dir/a.b.Vtbl"), TableFileKind::Valve);
-    for (const char* name : {"a", "PTBL", ".PTBL", "a.PTBL.txt", "a.PTBLS"}) {
-        EXPECT_FALSE(KindOf(name)) << name;
-    }
-    EXPECT_EQ(Shown(Check("small.ptbl", TableText(kPipes))), "");
-}
-
 // What the lines show to be wrong and what the library refuses are found in different ways: over
 // damages of all kinds the library must never refuse what the lines let pass.
-class Damaged : public TableCheck {
-  protected:
-    std::string Damage(std::string text) {
-        static constexpr std::string_view kBytes("\t\t\r\n 0123456789.,-+eExX\"ZzRrVSDP*\0\x81\xFF",
-                                                 36);
-        const auto pick = [this](std::size_t count) { return m_random() % count; };
-        for (std::size_t changes = 1 + pick(3); changes > 0 && !text.empty(); --changes) {
-            const std::size_t place = pick(text.size());
-            const std::size_t start = text.rfind('\n', place) + 1;
-            const std::size_t end = std::min(text.find('\n', start), text.size() - 1) + 1;
+std::string Damaged(std::string text, std::mt19937& random) {
+    static constexpr std::string_view kBytes("\t\t\r\n 0123456789.,-+eExX\"ZzRrVSDP*\0\x81\xFF",
+                                             36);
+    const auto pick = [&random](std::size_t count) { return random() % count; };
+    for (std::size_t changes = 1 + pick(3); changes > 0 && !text.empty(); --changes) {
+        const std::size_t place = pick(text.size());
+        if (pick(2) == 0) {
+            const std::size_t lost = pick(3);
             const char byte = kBytes[pick(kBytes.size())];
-            switch (pick(6)) {
-                case 0:
-                    text[place] = byte;
-                    break;
-                case 1:
-                    text.insert(place, 1, byte);
-                    break;
-                case 2:
-                    text.erase(place, 1 + pick(4));
-                    break;
-                case 3:
-                    text.erase(start, end - start);
-                    break;
-                case 4:
-                    text.insert(start, text.substr(start, end - start));
-                    break;
-                default: {
-                    const std::string line = text.substr(start, end - start);
-                    text.erase(start, end - start);
-                    const std::size_t other = text.find('\n', pick(text.size() + 1));
-                    text.insert(other == std::string::npos ? 0 : other + 1, line);
-                }
-            }
+            text.replace(place, lost, lost == 0 ? 1 : pick(2), byte);
+            continue;
         }
-        return text;
+        // A line is lost, put elsewhere, or stands there twice.
+        const std::size_t start = text.rfind('\n', place) + 1;
+        const std::string line = text.substr(start, text.find('\n', start) + 1 - start);
+        text.erase(start, line.size());
+        for (std::size_t copies = pick(3); copies > 0; --copies) {
+            text.insert(text.rfind('\n', pick(text.size() + 1)) + 1, line);
+        }
     }
+    return text;
+}
 
-    std::mt19937 m_random{20240229};
-};
-
-TEST_F(Damaged, TablesAreNeverRefusedByTheLibraryAlone) {
+TEST_F(TableCheck, DamagedTablesAreNeverRefusedByTheLibraryAlone) {
     constexpr int kTimes = 300;
-    const std::pair<const char*, const char*> tables[] = {
-        {"D.PTBL", kPipes}, {"D.VTBL", kValves}, {"D.FTBL", kFluid}};
-    for (const auto& [name, sound] : tables) {
+    std::mt19937 random{20240229};
+    for (const auto& [name, sound] :
+         {std::pair("D.PTBL", kPipes), std::pair("D.VTBL", kValves), std::pair("D.FTBL", kFluid)}) {
         int clean = 0;
         for (int i = 0; i < kTimes; ++i) {
-            const std::string text = Damage(TableText(sound));
+            const std::string text = Damaged(TableText(sound), random);
             const auto findings = Check(name, text);
             if (findings.empty()) ++clean;
             ASSERT_THAT(Shown(findings), Not(HasSubstr("the library"))) << text;
