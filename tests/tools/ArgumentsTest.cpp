@@ -7,6 +7,8 @@ using ::testing::HasSubstr;
 using CommandArguments = SampleTables;
 
 TEST_F(CommandArguments, TakesAnOptionInAllItsForms) {
+    const std::string tables = " --tables \"" + m_tables + "\" ";
+    m_tables.clear();
     const struct {
         const char* plain;
         const char* other;
@@ -20,47 +22,54 @@ TEST_F(CommandArguments, TakesAnOptionInAllItsForms) {
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.other);
-        const Outcome plain = Run(WithTables(row.plain));
-        const Outcome other = Run("--tables \"" + Directory() + "\" " + row.other);
+        const Outcome plain = Run(row.plain + tables);
+        const Outcome other = Run(tables + row.other);
         EXPECT_EQ(plain.status, 0) << plain.err;
         EXPECT_EQ(other.status, 0) << other.err;
         EXPECT_EQ(plain.out, other.out);
     }
 }
 
-TEST_F(CommandArguments, SaysWhatIsWrongWithThem) {
-    const struct {
-        const char* arguments;
-        const char* message;
-    } cases[] = {
-        {"fluids --state solid", "--state: solid not in {liquid,vapor}."},
-        {"fluids --state \"\"", "--state:  not in {liquid,vapor}."},
-        {"fluids --state", "--state: 1 required liquid|vapor missing."},
-        {"fluids --state liquid --state vapor", "--state: At Most 1 required but received 2."},
-        {"fluids --stat liquid", "not expected: liquid --stat."},
-        {"fluids --tables", "--tables: 1 required DIR missing."},
-        {"elevation", "VALUE is required."},
-        {"elevation 1", "UNIT is required."},
-        {"elevation 1 m 2", "not expected: 2."},
-        {"elevation 1 m --pressure-unit", "--pressure-unit: 1 required U missing."},
-        {"convert 1 -psi bar", "TO is required."},
-        {"fluid Water -t 20", "--pressure is required."},
-        {"check", "FILE is required."},
-        // A pressure a time, though it may be repeated.
-        {"plot Water density -p 10 20 --json", "not expected: 20."},
-        {"plot Water density -o a.svg -o b.svg", "--output: At Most 1 required but received 2."},
-        // "/x" is a path, not an option.
-        {"units /x", "unknown measure \"/x\""},
-    };
-    for (const auto& row : cases) ExpectRefused(row.arguments, row.message);
+TEST_F(CommandRunner, SaysWhatIsWrongWithTheArguments) {
+    ExpectAllRefused(
+        "",
+        {
+            {"fluids --state solid", "--state: solid not in {liquid,vapor}."},
+            {"fluids --state", "--state: 1 required liquid|vapor missing."},
+            {"fluids --state liquid --state vapor", "--state: At Most 1 required but received 2."},
+            {"fluids --stat liquid", "not expected: liquid --stat."},
+            {"elevation 1", "UNIT is required."},
+            {"convert 1 -psi bar", "TO is required."},
+            {"fluid Water -t 20", "--pressure is required."},
+            {"check", "FILE is required."},
+            // A pressure a time, though it may be repeated.
+            {"plot Water density -p 10 20 --json", "not expected: 20."},
+            // "/x" is a path, not an option.
+            {"units /x", "unknown measure \"/x\"; the measures are temperature, pressure, flow"},
+            {"elevatoin 1 m", "did you mean elevation?"},
+        });
+    const Outcome nothing = Run("");
+    EXPECT_EQ(nothing.status, 2);
+    EXPECT_THAT(nothing.err, HasSubstr("Usage: hydrofacts"));
 }
 
-TEST_F(CommandArguments, AreListedByTheHelp) {
-    const std::string help = Run("plot --help").out;
-    EXPECT_THAT(help, HasSubstr("  --state liquid|vapor "));
-    EXPECT_THAT(help, HasSubstr("\nSet point:\n  -p,--pressure PRES "));
-    EXPECT_THAT(help, HasSubstr("\nUnits:\n  --units us|metric "));
-    EXPECT_THAT(Run("fluid --help").out, HasSubstr("  -t,--temperature TEMP REQUIRED"));
+TEST_F(CommandRunner, HelpsWithEveryCommand) {
+    for (const char* command : {"", "fluids", "fluid", "table", "plot", "pipes", "pipe", "valves",
+                                "valve", "convert", "units", "elevation", "check"}) {
+        const Outcome outcome = Run(std::string(command) + " --help");
+        EXPECT_EQ(outcome.status, 0) << command;
+        EXPECT_THAT(outcome.out, HasSubstr("Examples:\n  hydrofacts ")) << command;
+    }
+    EXPECT_THAT(Run("plot --help").out, HasSubstr("\nSet point:\n  -p,--pressure PRES "));
+    EXPECT_THAT(Run("--version").out, ::testing::MatchesRegex("hydrofacts .+\\..+\\..+\n"));
+}
+
+// 998.25 kg/m³ at 20 °C and 2 bar (IAPWS-95). ASME B36.10M: 2.375 less twice 0.154.
+TEST_F(CommandRunner, FindsTheTablesThatItWasBuiltWith) {
+    const auto water = RunForJson("fluid water -t 20 -p 1 --units metric");
+    EXPECT_NEAR(water["density"], 998.25, 0.0005 * 998.25);
+    EXPECT_EQ(RunForJson("pipe \"Steel B36.10M\" 40 2")["inside_diameter"], 2.067);
+    EXPECT_THAT(Run("valve Standard Fitting").out, HasSubstr("\nElbow 90 Standard "));
 }
 
 }  // namespace

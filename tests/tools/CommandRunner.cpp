@@ -65,8 +65,9 @@ std::string WithoutReturns(std::string text) {
 Outcome CommandRunner::Run(const std::string& arguments) {
     SCOPED_TRACE(arguments);
     const std::string program = std::filesystem::path(HYDROFACTS_COMMAND).make_preferred().string();
-    const int status =
-        RunLine("\"" + program + "\" " + arguments, m_folder.Path("out"), m_folder.Path("err"));
+    const std::string tables = m_tables.empty() ? "" : " --tables \"" + m_tables + "\"";
+    const int status = RunLine("\"" + program + "\"" + tables + " " + arguments,
+                               m_folder.Path("out"), m_folder.Path("err"));
     return {status, WithoutReturns(m_folder.Read("out")), WithoutReturns(m_folder.Read("err"))};
 }
 
@@ -83,4 +84,9 @@ void CommandRunner::ExpectRefused(const std::string& arguments, const std::strin
     EXPECT_EQ(outcome.out, "");
     EXPECT_THAT(outcome.err, ::testing::StartsWith("hydrofacts: "));
     EXPECT_THAT(outcome.err, ::testing::HasSubstr(message));
+}
+
+void CommandRunner::ExpectAllRefused(const std::string& start,
+                                     std::initializer_list<Refusal> refusals) {
+    for (const Refusal& each : refusals) ExpectRefused(start + each.arguments, each.message);
 }

@@ -22,24 +22,24 @@ inline std::string SampleTable(bool liquid = true, bool vapor = true, const char
 }
 
 /// Runs the command on tables of the test's own.
-class SampleTables : public CommandRunner {
+class OwnTables : public CommandRunner {
+  protected:
+    OwnTables() {
+        m_tables = m_folder.Path("tables");
+        std::filesystem::create_directory(m_tables);
+    }
+    void Write(const std::string& name, const std::string& text) {
+        m_folder.Write("tables/" + name, text);
+    }
+};
+
+class SampleTables : public OwnTables {
   protected:
     SampleTables() {
-        std::filesystem::create_directory(Directory());
         Write("Sample.FTBL", SampleTable());
         Write("Gas only.FTBL", SampleTable(false, true));
         Write("Blend.FTBL", SampleTable(true, true, "P2|1|-250|1"));
         Write("oil.FTBL", SampleTable(true, false));
-    }
-
-    void Write(const std::string& name, const std::string& text) {
-        m_folder.Write("tables/" + name, text);
-    }
-    std::string Directory() const { return m_folder.Path("tables"); }
-
-    /// The arguments with the option that names the tables.
-    std::string WithTables(const std::string& arguments) const {
-        return arguments + " --tables \"" + Directory() + "\"";
     }
 };
 
