@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <string>
 #include <thread>
-#include <vector>
 
 #include "quillbase/CLanguage.h"
 #include "quillbase/DialogItems.h"
@@ -34,28 +34,22 @@ class DialogItems : public ::testing::Test {
 
 TEST_F(DialogItems, NumbersAreTakenWithThePointAndWithTheLanguagesSign) {
     const struct {
+        bool german;
         const char* text;
         double number;
         bool good;
-        double german;
-        bool goodInGerman;
     } kCases[] = {
-        {"", 0.0, true, 0.0, true},          {" -1.5e2 ", -150.0, true, -150.0, true},
-        {"+.5", 0.5, true, 0.5, true},       {"5.", 5.0, true, 5.0, true},
-        {"1,5", 1.0, false, 1.5, true},      {"1.234,5", 1.234, false, 1234.5, true},
-        {"12abc", 12.0, false, 12.0, false}, {"-", 0.0, false, 0.0, false},
-        {"1e", 1.0, false, 1.0, false},      {"--1", 0.0, false, 0.0, false},
-        {"inf", 0.0, false, 0.0, false},     {"nan", 0.0, false, 0.0, false},
-        {"1e999", 0.0, false, 0.0, false},
+        {false, "", 0.0, true},          {false, " -1.5e2 ", -150.0, true},
+        {false, "+.5", 0.5, true},       {false, "1,5", 1.0, false},
+        {false, "12abc", 12.0, false},   {false, "--1", 0.0, false},
+        {false, "inf", 0.0, false},      {false, "1e999", 0.0, false},
+        {true, "1.234,5", 1234.5, true}, {true, "-1.5e2", -150.0, true},
     };
     for (const auto& c : kCases) {
         SetDlgItemTextA(Handle(), kEdit, c.text);
-        quillbase::SetNumberLanguage(nullptr);
+        quillbase::SetNumberLanguage(c.german ? &german_ : nullptr);
         EXPECT_EQ(GetDlgItemDouble(Handle(), kEdit), c.number) << c.text;
         EXPECT_EQ(GoodNumber(Handle(), kEdit, true, true, true), c.good) << c.text;
-        quillbase::SetNumberLanguage(&german_);
-        EXPECT_EQ(GetDlgItemDouble(Handle(), kEdit), c.german) << c.text;
-        EXPECT_EQ(GoodNumber(Handle(), kEdit, true, true, true), c.goodInGerman) << c.text;
         EXPECT_EQ(dialog_.Text(kEdit), c.text) << "the text stays";
     }
     SetDlgItemTextA(Handle(), kEdit, std::string(40000, '1').c_str());
@@ -64,71 +58,56 @@ TEST_F(DialogItems, NumbersAreTakenWithThePointAndWithTheLanguagesSign) {
 
 TEST_F(DialogItems, NumbersAreShownInTheLanguagesForm) {
     const struct {
+        bool german;
         double number;
         const char* text;
-        const char* german;
     } kCases[] = {
-        {-0.0, "0", "0"},
-        {-459.67, "-459.67", "-459,67"},
-        {0.1 + 0.2, "0.3", "0,3"},
-        {14.6959487755, "14.6959487755", "14,6959487755"},
-        {1500000.0, "1500000", "1500000"},
-        {0.00001234, "1.234e-05", "1,234e-05"},
-        {HUGE_VAL, "", ""},
-        {std::nan(""), "", ""},
+        {false, -0.0, "0"},           {false, 14.6959487755, "14.6959487755"},
+        {false, HUGE_VAL, ""},        {true, 0.1 + 0.2, "0,3"},
+        {true, 1500000.0, "1500000"}, {true, 0.00001234, "1,234e-05"},
     };
     for (const auto& c : kCases) {
-        quillbase::SetNumberLanguage(nullptr);
+        quillbase::SetNumberLanguage(c.german ? &german_ : nullptr);
         SetDlgItemDouble(Handle(), kEdit, c.number);
         EXPECT_EQ(dialog_.Text(kEdit), c.text);
-        quillbase::SetNumberLanguage(&german_);
-        SetDlgItemDouble(Handle(), kEdit, c.number);
-        EXPECT_EQ(dialog_.Text(kEdit), c.german);
     }
 }
 
 class KeyPressDelay : public DialogItems {
   protected:
-    using Log = std::vector<Notification>;
-
     static constexpr long kDelay = 150;
 
     void Begin() const { MakeKeyPressDelay(Handle(), kEdit, kDelay); }
     void Type() const { win32::user::Type(dialog_.Item(kEdit), "1"); }
 
-    // Which edits have been left since the last call, at the end of a time in delays.
-    Log Left(double delays) {
+    // How often edits have been left since the last call, at the end of a time in delays.
+    std::ptrdiff_t Left(double delays) {
         const auto end = std::chrono::steady_clock::now() +
                          std::chrono::milliseconds(static_cast<int>(kDelay * delays));
         while (std::chrono::steady_clock::now() < end) {
             win32::user::HandleMessages(Handle());
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
         }
-        Log left = dialog_.TakeLog();
-        std::erase_if(left, [](const Notification& n) { return n.code != EN_KILLFOCUS; });
-        return left;
+        return std::ranges::count(dialog_.TakeLog(), EN_KILLFOCUS, &Notification::code);
     }
-
-    const Log kNever{};
-    const Log kOnce{{kEdit, EN_KILLFOCUS}};
 };
 
 TEST_F(KeyPressDelay, EndsAsIfTheUserHadLeftTheEditOnceAfterTheLastKey) {
     Begin();
     Type();
-    EXPECT_EQ(Left(0.6), kNever);
+    EXPECT_EQ(Left(0.6), 0);
     Type();
-    EXPECT_EQ(Left(0.6), kNever) << "each key begins it again";
-    EXPECT_EQ(Left(2.5), kOnce);
+    EXPECT_EQ(Left(0.6), 0) << "each key begins it again";
+    EXPECT_EQ(Left(2.5), 1);
     EXPECT_EQ(GetFocus(), dialog_.Item(kEdit));
 
     SetDlgItemDouble(Handle(), kEdit, 8.0);
     win32::user::PressKey(Handle(), VK_LEFT);
-    EXPECT_EQ(Left(1.5), kNever) << "only typing begins it";
+    EXPECT_EQ(Left(1.5), 0) << "only typing begins it";
 
     Type();
     win32::user::PressTab(Handle());
-    EXPECT_EQ(Left(1.5), kOnce) << "leaving ends it";
+    EXPECT_EQ(Left(1.5), 1) << "leaving ends it";
 }
 
 TEST_F(KeyPressDelay, IsClearedByTheHostAndByTheEndOfEditOrDialog) {
@@ -137,8 +116,7 @@ TEST_F(KeyPressDelay, IsClearedByTheHostAndByTheEndOfEditOrDialog) {
     Type();
     ClearKeyPress(Handle(), kEdit);
     Type();
-    EXPECT_EQ(Left(1.5), kNever);
-    EXPECT_EQ(dialog_.Text(kEdit), "11");
+    EXPECT_EQ(Left(1.5), 0);
 
     Begin();
     MakeKeyPressDelay(Handle(), kOther, kDelay);
@@ -147,7 +125,7 @@ TEST_F(KeyPressDelay, IsClearedByTheHostAndByTheEndOfEditOrDialog) {
     win32::user::Type(dialog_.Item(kOther), "1");
     DestroyWindow(Handle());
     Left(0.0);
-    EXPECT_EQ(Left(1.5), kNever);
+    EXPECT_EQ(Left(1.5), 0);
     ClearKeyPress(Handle(), kOther);
 }
 
@@ -177,10 +155,10 @@ TEST_F(KeyPressDelay, StaysBehindAProcedureThatTheHostPutInFrontLater) {
     SetWindowLongPtrA(edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&HandOn));
     ClearKeyPress(Handle(), kEdit);
     Type();
-    EXPECT_EQ(Left(1.5), kNever);
+    EXPECT_EQ(Left(1.5), 0);
     Begin();
     Type();
-    EXPECT_EQ(Left(1.5), kOnce);
+    EXPECT_EQ(Left(1.5), 1);
 }
 
 }  // namespace
