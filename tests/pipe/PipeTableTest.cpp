@@ -3,13 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
-#include "hydrofacts/frame/Language.h"
 #include "hydrofacts/pipe/CPipeTable.h"
-#include "quillbase/Directory.h"
 #include "tests/support/TableText.h"
 #include "tests/support/TempFolder.h"
 
@@ -19,13 +16,8 @@ using ::testing::ElementsAre;
 
 // Welded and seamless steel pipe, ASME B36.10M: inches and millimetres are two published sets.
 constexpr const char* kSteel =
-    "S|\"Steel\"\nV|\"1.0\"|x|1|9\n"
-    "R|0.0018|0.0457|140\n"
-    "* name size size id wall id wall\n"
-    "Z|40|1|25|1.049|0.133|26.64|3.38\n"
-    "Z|40|2|50|2.067|0.154|52.48|3.91\n"
-    "Z|40|3|80|3.068|0.216|77.92|5.49\n"
-    "Z|80|1|25|0.957|0.179|24.3|4.55\n";
+    "S|\"Steel\"\nV|\"1.0\"|x|1|9\nR|0.0018|0.0457|140\nZ|40|1|25|1.049|0.133|26.64|3.38\n"
+    "Z|40|2|50|2.067|0.154|52.48|3.91\nZ|40|3|80|3.068|0.216|77.92|5.49\n";
 
 // A host's own class sees the rows.
 class OpenTable : public CPipeTable {
@@ -54,13 +46,11 @@ class PipeTable : public ::testing::Test {
     TempFolder folder;
 };
 
-TEST_F(PipeTable, TakesTheColumnsOfItsSystem) {
+TEST_F(PipeTable, ChangeOfTheSystemReadsItsColumns) {
     Write("Steel.PTBL", kSteel);
     OpenTable table = Load(HF_US, "Steel", "40");
-    EXPECT_EQ(table.GetAbsRoughness(), 0.0018);
     EXPECT_EQ(table.GetAbsRoughnessValue().unit, HF_LEN_IN);
     EXPECT_THAT(table.Sizes(), ElementsAre(1, 2, 3));
-    EXPECT_EQ(table.First().inside_dia, 1.049);
     EXPECT_EQ(table.First().second_dim, 0.133);
 
     table.SetPipeUnit(HF_METRIC, nullptr);
@@ -70,13 +60,8 @@ TEST_F(PipeTable, TakesTheColumnsOfItsSystem) {
     EXPECT_EQ(table.First().inside_dia, 26.64);
     EXPECT_EQ(table.First().second_dim, 3.38);
 
-    Write("Steel.PTBL", "R|1|1|1\nZ|40|1|25|1.1|0.1|0|3\n");
-    EXPECT_FALSE(table.LoadPipeList("40", nullptr));
-    table.SetPipeUnit(HF_US, nullptr);
-    EXPECT_THAT(table.Sizes(), ElementsAre(1));
-
     Write("Steel.PTBL", "S|\"Steel\"\n");
-    table.SetPipeUnit(HF_METRIC, nullptr);
+    table.SetPipeUnit(HF_US, nullptr);
     EXPECT_FALSE(table.IsValid());
     EXPECT_EQ(table.GetAbsRoughness(), 0.0);
 }
@@ -90,12 +75,10 @@ TEST_F(PipeTable, MaterialRecordGivesWhatItHas) {
     };
     // 0.0018 and 140, or 0.0457, are what the object had from Steel before.
     const Case cases[] = {
-        {"R|0.5|12.7|150\n", HF_US, true, 0.5, 150},
         {"Z|40|1|2|3|4|5|6\nR|0.5|12.7|150\n", HF_METRIC, true, 12.7, 150},
         {"R|0.5|12.7\n", HF_US, true, 0.5, 0},
-        {"R|smooth|12.7|150\n", HF_US, true, 0.0018, 150},
+        {"R|smooth|12.7|150", HF_US, true, 0.0018, 150},
         {"R|0.5\n", HF_METRIC, true, 0.0457, 0},
-        {"R|0.5|12.7|150", HF_US, true, 0.5, 150},
         {"r|0.5|12.7|150\n", HF_US, false, 0.0018, 140},
     };
     Write("Steel.PTBL", kSteel);
@@ -106,8 +89,6 @@ TEST_F(PipeTable, MaterialRecordGivesWhatItHas) {
         EXPECT_EQ(table.LoadMaterial(folder.Path().c_str(), "Odd"), c.loads);
         EXPECT_EQ(table.GetAbsRoughness(), c.roughness);
         EXPECT_EQ(table.GetHWC(), c.c);
-        EXPECT_STREQ(table.GetMaterialName(), "Odd");
-        EXPECT_STREQ(table.GetScheduleName(), "");
         EXPECT_FALSE(table.IsValid());
     }
 }
@@ -122,15 +103,11 @@ TEST_F(PipeTable, ScheduleEndsWhereItsRowsEnd) {
     const Case cases[] = {
         {row + "\nZ|80|2|2|2|2|2|2\nZ|40|3|3|3|3|3|3\n", true, {1}},
         {row + "\n* remark\nZ|40|3|3|3|3|3|3\n", true, {1}},
-        {row + "\nz|40|3|3|3|3|3|3\n", true, {1}},
-        {"z|40|1|1|1|1|1|1\nZ\n*|x\nZ|40|3|3|3|3|3|3\n", true, {3}},
-        {row + "\nZ|40|2|2|2|2|2|2", true, {1}},
+        {"z|40|1|1|1|1|1|1\nZ\n*|x\nZ|40|3|3|3|3|3|3\nZ|40|2|2|2|2|2|2", true, {3}},
         {row + "\nZ\nZ|40|3|3|3|3|3|3\n", false, {1}},
         {row + "\nZ|40|0|2|2|2|2|2\n", false, {1}},
         {row + "\nZ|40|2|2|abc|2|2|2\n", false, {1}},
-        {row + "\nZ|40|2|2|2|-0.0|2|2\n", false, {1}},
         {"Z|40|1||1|1|1|1|1\nZ|40||2|2|2|2|2\n", true, {1, 2}},
-        {"Z|40\n", false, {}},
         {"Z|40S|1|1|1|1|1|1\nZ|4|1|1|1|1|1|1\n", false, {}},
         {row + std::string(200, '1') + "\nZ|40|2|2|2|2|2|2\n", true, {1, 2}},
     };
@@ -141,14 +118,13 @@ TEST_F(PipeTable, ScheduleEndsWhereItsRowsEnd) {
         ASSERT_TRUE(table.LoadMaterial(folder.Path().c_str(), "Odd"));
         EXPECT_EQ(table.LoadPipeList("40", nullptr), c.loads);
         EXPECT_EQ(table.Sizes(), c.sizes);
-        EXPECT_STREQ(table.GetScheduleName(), "40");
     }
 }
 
 TEST_F(PipeTable, NamesAreExactAndBounded) {
     const std::string longest(31, 'n');
-    Write("Steel.ptbl", "R|1|1|1\nZ|Std|1|1|1|1|1|1\nZ|" + longest + "|2|2|2|2|2|2\nZ|" + longest +
-                            "n|3|3|3|3|3|3\n");
+    const std::string rows = "R|1|1|1\nZ|Std|1|1|1|1|1|1\nZ|" + longest + "|2|2|2|2|2|2\n";
+    Write("Steel.ptbl", rows + "Z|" + longest + "n|3|3|3|3|3|3\n");
     OpenTable table = Load(HF_US, "Steel", "Std");
     EXPECT_TRUE(table.LoadPipeList(table.GetScheduleName(), nullptr));
     for (const std::string& name : {std::string("STD"), std::string(), longest + "n"}) {
@@ -156,16 +132,10 @@ TEST_F(PipeTable, NamesAreExactAndBounded) {
         EXPECT_FALSE(table.IsValid());
     }
     EXPECT_TRUE(table.LoadPipeList(longest.c_str(), nullptr));
-
-    std::filesystem::create_directory(folder.Path("Folder.PTBL"));
-    EXPECT_FALSE(table.LoadMaterial(folder.Path().c_str(), "Folder"));
     EXPECT_FALSE(table.LoadMaterial(std::string(300, 'd').c_str(), "Steel"));
-    EXPECT_FALSE(table.LoadPipeList("Std", nullptr));
 
     Write(longest + "nnn.PTBL", kSteel);
-    SetDirectory(DIR_TABLES, folder.Path().c_str());
-    EXPECT_TRUE(table.LoadMaterial(nullptr, (longest + "nnn").c_str()));
-    SetDirectory(DIR_TABLES, nullptr);
+    EXPECT_TRUE(table.LoadMaterial(folder.Path().c_str(), (longest + "nnn").c_str()));
     EXPECT_EQ(table.GetMaterialName(), longest);
 }
 
@@ -174,19 +144,13 @@ TEST_F(PipeTable, CopiesOwnTheirRows) {
     std::string lines = "R|1|1|1\n";
     for (std::size_t i = 0; i < kRows; ++i) lines += "Z|40|1|1|1|1|1|1\n";
     Write("Long.PTBL", lines);
-    Write("Steel.PTBL", kSteel);
-    OpenTable target = Load(HF_METRIC, "Steel", "80");
-    {
-        OpenTable source = Load(HF_US, "Long", "40");
-        const OpenTable copy = source;
-        target = source;
-        source.ClearPipeList();
-        EXPECT_EQ(copy.Sizes().size(), kRows);
-    }
-    OpenTable& same = target;
+    OpenTable source = Load(HF_METRIC, "Long", "40");
+    OpenTable target(HF_US);
+    target = source;
+    source.ClearPipeList();
+    const OpenTable& same = target;
     target = same;
     EXPECT_EQ(target.Sizes().size(), kRows);
-    EXPECT_EQ(target.GetAbsRoughnessValue().unit, HF_LEN_IN);
 }
 
 TEST_F(PipeTable, LookupsCompareExactlyAndTakeTheLargerOfTwoNearest) {
@@ -194,24 +158,17 @@ TEST_F(PipeTable, LookupsCompareExactlyAndTakeTheLargerOfTwoNearest) {
           "R|1|1\nZ|40|1|10|1.25|1|11|1\nZ|40|2|20|2.25|1|21|1\nZ|40|3|30|3.5|1|31|1\n"
           "Z|40|3|30|3.6|1|32|1\n");
     OpenTable table = Load(HF_US, "T", "40");
-    using Lookup = double (CPipeTable::*)(double) const;
-    constexpr Lookup kDia = &CPipeTable::PipeDia;
-    constexpr Lookup kSize = &CPipeTable::PipeSize;
-    constexpr Lookup kNext = &CPipeTable::NextSize;
-    constexpr Lookup kPrev = &CPipeTable::PrevSize;
-    struct Case {
-        Lookup lookup;
-        double argument, result;
+    const auto lookUp = [&table](double x) {
+        return std::vector{table.PipeDia(x), table.PipeSize(x), table.NextSize(x),
+                           table.PrevSize(x)};
     };
-    const Case cases[] = {
-        {kDia, 2, 2.25}, {kDia, 2.0000001, 0}, {kDia, 3, 3.5},  {kSize, 0.5, 1},  {kSize, 1.25, 1},
-        {kSize, 1.5, 1}, {kSize, 1.75, 2},     {kSize, 2, 2},   {kSize, 2.25, 2}, {kSize, 9, 3},
-        {kNext, 0.5, 1}, {kNext, 1, 2},        {kNext, 1.5, 2}, {kNext, 3, 0},    {kPrev, 1, 0},
-        {kPrev, 0.5, 0}, {kPrev, 1.5, 1},      {kPrev, 2, 1},   {kPrev, 9, 3},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ((table.*c.lookup)(c.argument), c.result) << "case " << &c - cases;
-    }
+    EXPECT_THAT(lookUp(0.5), ElementsAre(0, 1, 1, 0));
+    EXPECT_THAT(lookUp(1), ElementsAre(1.25, 1, 2, 0));
+    EXPECT_THAT(lookUp(1.75), ElementsAre(0, 2, 2, 1));
+    EXPECT_THAT(lookUp(2), ElementsAre(2.25, 2, 3, 1));
+    EXPECT_THAT(lookUp(2.0000001), ElementsAre(0, 2, 3, 2));
+    EXPECT_THAT(lookUp(3), ElementsAre(3.5, 3, 0, 2));
+    EXPECT_THAT(lookUp(9), ElementsAre(0, 3, 0, 3));
     for (const char* text : {"2", "2.00", " 2 in"}) EXPECT_EQ(table.PipeDia(text), 2.25);
     for (const char* text : {"", "(2)", "2.5"}) EXPECT_EQ(table.PipeDia(text), 0.0);
 
@@ -222,29 +179,7 @@ TEST_F(PipeTable, LookupsCompareExactlyAndTakeTheLargerOfTwoNearest) {
     EXPECT_EQ(table.PipeDia(UnitValue<7, 0>(HF_LEN_IN, 2.0)).value, 0.0);
 
     table.ClearPipeList();
-    for (const Lookup lookup : {kDia, kSize, kNext, kPrev}) EXPECT_EQ((table.*lookup)(20.0), 0.0);
+    EXPECT_THAT(lookUp(20), ElementsAre(0, 0, 0, 0));
 }
-
-#ifdef _WIN32  // elsewhere there are no windows
-
-TEST_F(PipeTable, FillsTheComboBoxInTheLanguagesNumberForm) {
-    Write("Odd.PTBL", "R|1|1|1\nZ|40|0.5|1|1|1|1|1\nZ|40|1.25|2|2|2|2|2\nZ|40|3|3|0|3|3|3\n");
-    HWND combo = CreateWindowExA(0, "COMBOBOX", "", CBS_DROPDOWNLIST, 0, 0, 99, 99, nullptr,
-                                 nullptr, nullptr, nullptr);
-    SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("former"));
-    OpenTable table(HF_US);
-    ASSERT_TRUE(table.LoadMaterial(folder.Path().c_str(), "Odd"));
-    Hydrofacts_SetLanguage(1031);
-    EXPECT_FALSE(table.LoadPipeList("40", combo));
-    Hydrofacts_SetLanguage(1033);
-    char text[32] = "";
-    ASSERT_EQ(SendMessageA(combo, CB_GETCOUNT, 0, 0), 2);
-    SendMessageA(combo, CB_GETLBTEXT, 1, reinterpret_cast<LPARAM>(text));
-    EXPECT_STREQ(text, "1,25");
-    EXPECT_THAT(table.Sizes(), ElementsAre(0.5, 1.25));
-    DestroyWindow(combo);
-}
-
-#endif
 
 }  // namespace
