@@ -16,22 +16,20 @@ constexpr std::int16_t kValve = 2;
 
 class ValveLookup : public ::testing::Test {
   protected:
-    void SetUp() override {
-        folder.Write("T.VTBL", TableText("Z|Fitting|\"Entrance, Sharp Edged\"|1\n"
-                                         "Z|Fitting|\"Entrance, Flush, r/d 0.02\"|1\n"
-                                         "Z|Fitting|\"Mitre, Angle 90\"|2\n"
-                                         "Z|Fitting|\"Gate\"|2\n"
-                                         "Z|Bend|\"Elbow, Long radius, r/d 1.5\"|3\n"
-                                         "Z|Bend|\"Elbow, Short radius, r/d 1\"|3\n"
-                                         "Z|Bend|\"Elbow\"|3\n"
-                                         "Z|Valve|\"Gate\"|1\n"
-                                         "Z|Valve|\"Globe, Angle\"|2\n"
-                                         "Z|Valve|\"Globe\"|2\n"));
-        constexpr int kWanted[] = {1, 2, 3, 0};
-        ASSERT_EQ(table.LoadValveTable(folder.Path().c_str(), "T", HF_US, kWanted), 1);
+    CValveTable Load(std::string_view lines) const {
+        folder.Write("T.VTBL", TableText(lines));
+        constexpr int kWanted[] = {1, 2, 3, 20, 0};
+        CValveTable loaded;
+        EXPECT_EQ(loaded.LoadValveTable(folder.Path().c_str(), "T", HF_US, kWanted), 1);
+        return loaded;
     }
     TempFolder folder;
-    CValveTable table;
+    const CValveTable table = Load(
+        "Z|Fitting|\"Entrance, Sharp Edged\"|1\nZ|Fitting|\"Entrance, Flush, r/d 0.02\"|1\n"
+        "Z|Fitting|\"Mitre, Angle 90\"|2\nZ|Fitting|\"Gate\"|2\n"
+        "Z|Bend|\"Elbow, Long radius, r/d 1.5\"|3\nZ|Bend|\"Elbow, Short radius, r/d 1\"|3\n"
+        "Z|Bend|\"Elbow\"|3\n"
+        "Z|Valve|\"Gate\"|1\nZ|Valve|\"Globe, Angle\"|2\nZ|Valve|\"Globe\"|2\n");
 };
 
 std::string NameOf(const CValveType* record) { return record == nullptr ? "none" : record->name; }
@@ -62,16 +60,13 @@ TEST_F(ValveLookup, OlderNamesAreRewrittenAndFound) {
         {"Mitre", "Angle-90", kNone, kFitting, "Angle 90", "Mitre, Angle 90"},
         {"Entrance", "Flush - r/d 0.02", kNone, kFitting, "FFlush, r/d 0.02",
          "Entrance, Flush, r/d 0.02"},
-        {"Entrance", "a Flush - b", kNone, kFitting, "aFlush, - b", "Fixed K"},
         {"Elbow", "Long - r/d 1.5", kNone, kBend, "Long radius, r/d 1.5",
          "Elbow, Long radius, r/d 1.5"},
         {"Elbow", "Short - r/d 1", kNone, kBend, "Short radius, r/d 1",
          "Elbow, Short radius, r/d 1"},
-        {"elbow", "VALVE", kNone, kBend, "", "Elbow"},
-        {"gLOBE", "", kNone, kValve, "", "Globe"},
+        {"gLOBE", "VALVE", kNone, kValve, "", "Globe"},
         {"Globe", "angle", kNone, kValve, "angle", "Fixed K"},
         {"Globe", "", 1, kValve, "", "Gate"},
-        {"Nothing", "at all", kNone, kValve, "at all", "Fixed K"},
         {"Globe", "", kNone, 9, "", "Fixed K"},
         {"", "Angle", kNone, kValve, "Angle", "Globe, Angle"},
     };
@@ -85,12 +80,9 @@ TEST_F(ValveLookup, OlderNamesAreRewrittenAndFound) {
 }
 
 TEST_F(ValveLookup, LastResortIsTheTablesOwnFixedResistanceOrNothing) {
-    folder.Write("Own.VTBL", TableText("Z|Other|\"First\"|1\nZ|Other|\"Own K\"|20\n"));
-    constexpr int kWanted[] = {1, 20, 0};
-    ASSERT_EQ(table.LoadValveTable(folder.Path().c_str(), "Own", HF_US, kWanted), 1);
     char subname[21] = "";
-    EXPECT_EQ(NameOf(table.ValveDataV6("x", subname, 77, kValve)), "Own K");
-
+    const CValveTable own = Load("Z|Other|\"First\"|1\nZ|Other|\"Own K\"|20\n");
+    EXPECT_EQ(NameOf(own.ValveDataV6("x", subname, 77, kValve)), "Own K");
     const CValveTable empty;
     EXPECT_EQ(empty.Find("Gate"), nullptr);
     EXPECT_EQ(empty.ValveData("", 1, kValve), nullptr);
