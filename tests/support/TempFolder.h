@@ -1,12 +1,11 @@
 #ifndef HYDROFACTS_TESTS_SUPPORT_TEMPFOLDER_H
 #define HYDROFACTS_TESTS_SUPPORT_TEMPFOLDER_H
 
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -15,13 +14,9 @@
 class TempFolder {
   public:
     TempFolder() {
-        const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
-        std::string name = "hydrofacts-";
-        if (test != nullptr) name.append(test->test_suite_name()).append("-").append(test->name());
-        for (char& c : name) {
-            if (c == '/') c = '-';
-        }
-        name.append("-").append(std::to_string(::getpid()));
+        static int count = 0;
+        const std::string name =
+            "hydrofacts-" + std::to_string(::getpid()) + '-' + std::to_string(++count);
         path_ = std::filesystem::temp_directory_path() / name;
         std::filesystem::remove_all(path_);
         std::filesystem::create_directories(path_);
@@ -38,16 +33,13 @@ class TempFolder {
 
     /// Writes a file byte for byte and gives its path.
     std::string Write(std::string_view name, std::string_view content) const {
-        std::ofstream file(path_ / name, std::ios::binary);
-        file.write(content.data(), static_cast<std::streamsize>(content.size()));
+        std::ofstream(path_ / name, std::ios::binary) << content;
         return Path(name);
     }
 
     std::string Read(std::string_view name) const {
         std::ifstream file(path_ / name, std::ios::binary);
-        std::ostringstream content;
-        content << file.rdbuf();
-        return content.str();
+        return {std::istreambuf_iterator<char>(file), {}};
     }
 
   private:
