@@ -1,20 +1,16 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <climits>
+#include <cstring>
 #include <string>
+#include <tuple>
 
 #include "tests/dialogs/TestDialog.h"
 
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using Log = std::vector<Notification>;
 
-constexpr int kEdit = 101;
-constexpr int kOther = 102;
-constexpr int kLines = 103;
-constexpr int kDigits = 104;
+enum : int { kEdit = 101, kOther, kLines, kDigits };
 
 class EditControl : public testing::Test {
   protected:
@@ -26,141 +22,116 @@ class EditControl : public testing::Test {
         return form;
     }
 
-    std::vector<Notification> Changed(int id) { return {{id, EN_UPDATE}, {id, EN_CHANGE}}; }
+    void Set(const char* text) const { SetDlgItemTextA(dialog_.Handle(), kEdit, text); }
+    std::string Text() const { return dialog_.Text(kEdit); }
+    void Replace(int id, const char* text) const {
+        dialog_.Send(id, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
+    }
 
+    const Log kChanged{{kEdit, EN_UPDATE}, {kEdit, EN_CHANGE}};
     TestDialog dialog_{Form()};
+    const HWND edit_ = dialog_.Item(kEdit);
 };
 
 TEST_F(EditControl, TellsOfEveryTextSetByAProgramExceptInManyLines) {
-    const HWND edit = dialog_.Item(kEdit);
     for (const char* text : {"7", "7", "", "", static_cast<const char*>(nullptr)}) {
-        SetDlgItemTextA(dialog_.Handle(), kEdit, text);
-        EXPECT_EQ(dialog_.TakeLog(), Changed(kEdit));
-        EXPECT_EQ(dialog_.Text(kEdit), text == nullptr ? "" : text);
+        Set(text);
+        EXPECT_EQ(dialog_.TakeLog(), kChanged);
+        EXPECT_EQ(Text(), text == nullptr ? "" : text);
     }
-    SendMessageA(edit, EM_SETREADONLY, TRUE, 0);
-    EnableWindow(edit, FALSE);
-    ShowWindow(edit, SW_HIDE);
+    SendMessageA(edit_, EM_SETREADONLY, TRUE, 0);
+    EnableWindow(edit_, FALSE);
+    ShowWindow(edit_, SW_HIDE);
     dialog_.TakeLog();
-    EXPECT_TRUE(SetWindowTextA(edit, "still"));
-    EXPECT_EQ(dialog_.TakeLog(), Changed(kEdit));
+    EXPECT_TRUE(SetWindowTextA(edit_, "still"));
+    EXPECT_EQ(dialog_.TakeLog(), kChanged);
 
     SetDlgItemTextA(dialog_.Handle(), kLines, "a\r\nb");
-    EXPECT_THAT(dialog_.TakeLog(), IsEmpty());
-    dialog_.Send(kLines, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>("c"));
-    EXPECT_EQ(dialog_.TakeLog(), Changed(kLines));
+    EXPECT_EQ(dialog_.TakeLog(), Log{});
+    Replace(kLines, "c");
+    EXPECT_EQ(dialog_.TakeLog(), (Log{{kLines, EN_UPDATE}, {kLines, EN_CHANGE}}));
 }
 
 TEST_F(EditControl, HasItsNewTextWhenItTellsAndMayBeSetAgainFromThere) {
     std::string seen;
-    dialog_.Forward([&](int id, int code) {
-        if (id != kEdit || code != EN_CHANGE) return;
-        seen += dialog_.Text(kEdit) + ";";
-        if (seen == "first;") SetDlgItemTextA(dialog_.Handle(), kEdit, "second");
+    dialog_.Forward([&](int, int code) {
+        if (code != EN_CHANGE) return;
+        seen += Text() + ";";
+        if (seen == "first;") Set("second");
     });
-    SetDlgItemTextA(dialog_.Handle(), kEdit, "first");
+    Set("first");
     EXPECT_EQ(seen, "first;second;");
-    EXPECT_EQ(dialog_.Text(kEdit), "second");
+    EXPECT_EQ(Text(), "second");
 }
 
 TEST_F(EditControl, LimitsWhatIsTypedAndNotWhatIsSet) {
-    SetDlgItemTextA(dialog_.Handle(), kEdit, "12345");
     dialog_.Send(kEdit, EM_SETLIMITTEXT, 3);
-    EXPECT_EQ(dialog_.Text(kEdit), "12345");
-    SetDlgItemTextA(dialog_.Handle(), kEdit, "abcdef");
-    EXPECT_EQ(dialog_.Text(kEdit), "abcdef");
-    SetDlgItemTextA(dialog_.Handle(), kEdit, "");
-    win32::user::Type(dialog_.Item(kEdit), "xyz");
+    Set("abcdef");
+    EXPECT_EQ(Text(), "abcdef");
+    Set("");
+    win32::user::Type(edit_, "xyz");
     dialog_.TakeLog();
-    win32::user::Type(dialog_.Item(kEdit), "!");
-    EXPECT_EQ(dialog_.Text(kEdit), "xyz");
+    win32::user::Type(edit_, "!");
+    EXPECT_EQ(Text(), "xyz");
     EXPECT_EQ(dialog_.TakeLog().at(0), (Notification{kEdit, EN_MAXTEXT}));
 
-    SetDlgItemTextA(dialog_.Handle(), kEdit, "");
+    Set("");
     dialog_.TakeLog();
-    dialog_.Send(kEdit, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>("123456"));
-    EXPECT_EQ(dialog_.Text(kEdit), "123");
-    EXPECT_THAT(dialog_.TakeLog(),
-                ElementsAre(Notification{kEdit, EN_MAXTEXT}, Notification{kEdit, EN_UPDATE},
-                            Notification{kEdit, EN_CHANGE}));
+    Replace(kEdit, "123456");
+    EXPECT_EQ(Text(), "123");
+    EXPECT_EQ(dialog_.TakeLog(),
+              (Log{{kEdit, EN_MAXTEXT}, {kEdit, EN_UPDATE}, {kEdit, EN_CHANGE}}));
 }
 
 TEST_F(EditControl, GivesAtMostWhatFitsTheBuffer) {
-    SetDlgItemTextA(dialog_.Handle(), kEdit, "abcdef");
-    struct Case {
-        int size;
-        UINT length;
-        const char* text;
-    };
-    for (const Case& c :
-         {Case{0, 0, "??"}, Case{1, 0, ""}, Case{4, 3, "abc"}, Case{7, 6, "abcdef"}}) {
+    Set("abcdef");
+    for (const auto& [size, fitting] : {std::pair{0, "??"}, {1, ""}, {4, "abc"}, {7, "abcdef"}}) {
         char text[16] = "??";
-        EXPECT_EQ(GetDlgItemTextA(dialog_.Handle(), kEdit, text, c.size), c.length) << c.size;
-        EXPECT_STREQ(text, c.text) << c.size;
+        const UINT length = GetDlgItemTextA(dialog_.Handle(), kEdit, text, size);
+        EXPECT_EQ(length, size == 0 ? 0 : std::strlen(fitting));
+        EXPECT_STREQ(text, fitting);
     }
 }
 
 TEST_F(EditControl, ReadsWholeNumbers) {
-    struct Case {
-        const char* text;
-        UINT value;
-        BOOL good;
-    };
-    for (const Case& c :
-         {Case{"12abc", 12, TRUE}, Case{"  9", 9, TRUE}, Case{"+5", 5, TRUE}, Case{"", 0, FALSE},
-          Case{"99999999999999", 0, FALSE}, Case{"-7", static_cast<UINT>(-7), TRUE}}) {
-        SetDlgItemTextA(dialog_.Handle(), kEdit, c.text);
+    const std::tuple<const char*, int, BOOL> kCases[] = {
+        {"12abc", 12, TRUE}, {"  9", 9, TRUE}, {"99999999999999", 0, FALSE},
+        {"+5", 5, TRUE},     {"-7", -7, TRUE}, {"", 0, FALSE}};
+    for (const auto& [text, value, isNumber] : kCases) {
+        Set(text);
         BOOL good = 2;
-        EXPECT_EQ(GetDlgItemInt(dialog_.Handle(), kEdit, &good, TRUE), c.value) << c.text;
-        EXPECT_EQ(good, c.good) << c.text;
+        EXPECT_EQ(GetDlgItemInt(dialog_.Handle(), kEdit, &good, TRUE), static_cast<UINT>(value));
+        EXPECT_EQ(good, isNumber) << text;
     }
-    SetDlgItemInt(dialog_.Handle(), kEdit, static_cast<UINT>(INT_MIN), TRUE);
-    EXPECT_EQ(dialog_.Text(kEdit), "-2147483648");
 }
 
 TEST_F(EditControl, IsTypedIntoAtTheCaret) {
-    const HWND edit = dialog_.Item(kEdit);
-    SetWindowTextA(edit, "bd");
-    SendMessageA(edit, EM_SETSEL, 1, 1);
-    win32::user::Type(edit, "c");
-    EXPECT_EQ(dialog_.Text(kEdit), "bcd");
-    SendMessageA(edit, EM_SETSEL, 0, 2);
-    DWORD first = 9;
-    DWORD last = 9;
-    SendMessageA(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&first),
-                 reinterpret_cast<LPARAM>(&last));
-    EXPECT_EQ(first, 0U);
-    EXPECT_EQ(last, 2U);
-    win32::user::Type(edit, "a");
-    EXPECT_EQ(dialog_.Text(kEdit), "ad");
-    win32::user::Type(edit, "\b\b");
-    EXPECT_EQ(dialog_.Text(kEdit), "d");
-    win32::user::TypeOver(edit, "new");
-    EXPECT_EQ(dialog_.Text(kEdit), "new");
-    EXPECT_NE(SendMessageA(edit, EM_GETMODIFY, 0, 0), 0);
-    SetWindowTextA(edit, "set");
-    EXPECT_EQ(SendMessageA(edit, EM_GETMODIFY, 0, 0), 0);
-
-    SendMessageA(edit, EM_SETREADONLY, TRUE, 0);
-    win32::user::Type(edit, "x");
-    EXPECT_EQ(dialog_.Text(kEdit), "set");
-    win32::user::Type(dialog_.Item(kDigits), "1a2");
-    EXPECT_EQ(dialog_.Text(kDigits), "12");
-    SetDlgItemTextA(dialog_.Handle(), kDigits, "any");
-    EXPECT_EQ(dialog_.Text(kDigits), "any");
-    EnableWindow(dialog_.Item(kOther), FALSE);
-    EXPECT_FALSE(win32::user::Type(dialog_.Item(kOther), "x"));
-}
-
-TEST_F(EditControl, MovesItsCaretByKeys) {
-    const HWND edit = dialog_.Item(kEdit);
-    SetWindowTextA(edit, "abc");
-    SetFocus(edit);
+    Set("bd");
+    SendMessageA(edit_, EM_SETSEL, 1, 1);
+    win32::user::Type(edit_, "c");
+    EXPECT_EQ(Text(), "bcd");
+    SendMessageA(edit_, EM_SETSEL, 0, 2);
+    win32::user::Type(edit_, "a");
+    EXPECT_EQ(Text(), "ad");
+    win32::user::Type(edit_, "\b\b");
+    EXPECT_EQ(Text(), "d");
+    win32::user::TypeOver(edit_, "abc");
+    EXPECT_EQ(Text(), "abc");
     for (const int key : {VK_END, VK_LEFT, VK_DELETE, VK_HOME}) {
         win32::user::PressKey(dialog_.Handle(), key);
     }
-    win32::user::Type(edit, "_");
-    EXPECT_EQ(dialog_.Text(kEdit), "_ab");
+    win32::user::Type(edit_, "_");
+    EXPECT_EQ(Text(), "_ab");
+}
+
+TEST_F(EditControl, TakesFromAUserOnlyWhatItsStyleAllows) {
+    SendMessageA(edit_, EM_SETREADONLY, TRUE, 0);
+    win32::user::Type(edit_, "x");
+    EXPECT_EQ(Text(), "");
+    win32::user::Type(dialog_.Item(kDigits), "1a2");
+    EXPECT_EQ(dialog_.Text(kDigits), "12");
+    EnableWindow(dialog_.Item(kOther), FALSE);
+    EXPECT_FALSE(win32::user::Type(dialog_.Item(kOther), "x"));
 }
 
 }  // namespace
