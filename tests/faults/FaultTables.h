@@ -4,9 +4,11 @@
 #include <mutex>
 #include <string>
 
+#include "hydrofacts/dialogs/CFluidScan.h"
 #include "hydrofacts/dialogs/FluidNames.h"
 #include "hydrofacts/frame/Module.h"
 #include "tests/support/TableText.h"
+#include "tests/support/TempFolder.h"
 
 // A table of each kind, small enough to be seen at a glance.
 
@@ -25,6 +27,7 @@ inline const std::string kValveTable = TableText(
     "S|\"Standard\"\nV|\"1\"\nZ|Valve|\"Gate\"|1|8|0|0|6\n"
     "Z|Bend|\"Elbow\"|9|0.5|2|50|4\nZ|Bend|\"Elbow\"|9|0.4|6|150|4\n");
 
+inline constexpr int kManyTables = 250;
 inline constexpr int kFormulas[] = {1, 9, 0};
 
 /// The list of fluid tables holds for the whole process; here it begins anew.
@@ -33,5 +36,27 @@ inline void ForgetFluidTables() {
     const std::lock_guard lock(names->mutex);
     names->text.clear();
 }
+
+inline void ScanAnew(const std::string& folder) {
+    ForgetFluidTables();
+    CFluidScan().LoadFluidNames(folder.c_str(), FLUID_NONE, 0.0, 0.0);
+}
+
+/// A folder with room for a table of each kind.
+class Tables : public TempFolder {
+  public:
+    std::string path = Path();
+
+    void WriteAll(const std::string& fluid = kFluidTable, const std::string& pipe = kPipeTable,
+                  const std::string& valve = kValveTable) const {
+        Write("Plain.FTBL", fluid);
+        Write("Steel.PTBL", pipe);
+        Write("Standard.VTBL", valve);
+    }
+    /// Adds fluid tables until there are so many that a scan has threads of its own.
+    void FillUp() const {
+        for (int i = 1; i < kManyTables; ++i) Write(std::to_string(i) + ".FTBL", kFluidTable);
+    }
+};
 
 #endif

@@ -7,8 +7,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cstdlib>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <new>
@@ -16,15 +18,12 @@
 #include <system_error>
 #include <thread>
 
-#include "hydrofacts/dialogs/CFluidScan.h"
 #include "hydrofacts/dialogs/FluidTableCache.h"
 #include "hydrofacts/pipe/CPipeTableList.h"
 #include "hydrofacts/valve/CValveTable.h"
 #include "quillbase/CAtmPressure.h"
-#include "quillbase/CTableReader.h"
 #include "quillbase/Directory.h"
 #include "tests/faults/FaultTables.h"
-#include "tests/support/TempFolder.h"
 
 namespace {
 
@@ -57,29 +56,22 @@ void operator delete[](void* memory, std::size_t) noexcept { Release(memory); }
 
 namespace {
 
-class Refusing {
-  public:
-    explicit Refusing(long first) { granted = first; }
-    ~Refusing() { granted = kNever; }
-    Refusing(const Refusing&) = delete;
-    Refusing& operator=(const Refusing&) = delete;
-};
+using Work = std::function<void()>;
 
 /// Runs an operation with ever more memory until it has enough, and a check after each failure.
 /// Gives how often it failed.
-template <class Operation, class Check>
-int FailEverywhere(Operation operation, Check check) {
+int FailEverywhere(const Work& operation, const Work& check = {}) {
     constexpr int kEnough = 10000;
     for (int allowed = 0; allowed < kEnough; ++allowed) {
-        bool failed = false;
+        granted = allowed;
         try {
-            const Refusing refusing(allowed);
             operation();
+            granted = kNever;
+            return allowed;
         } catch (const std::bad_alloc&) {
-            failed = true;
+            granted = kNever;
+            if (check) check();
         }
-        if (!failed) return allowed;
-        check();
     }
     ADD_FAILURE() << "no memory is enough";
     return kEnough;
@@ -87,36 +79,28 @@ int FailEverywhere(Operation operation, Check check) {
 
 class MemoryFaults : public ::testing::Test {
   protected:
-    MemoryFaults() : path_(folder_.Path()) {
-        folder_.Write("Plain.FTBL", kFluidTable);
-        folder_.Write("Steel.PTBL", kPipeTable);
-        folder_.Write("Standard.VTBL", kValveTable);
-        SetDirectory(DIR_TABLES, path_.c_str());
+    MemoryFaults() {
+        tables_.WriteAll();
+        SetDirectory(DIR_TABLES, tables_.path.c_str());
     }
     ~MemoryFaults() override { SetDirectory(DIR_TABLES, nullptr); }
 
-    TempFolder folder_;
-    std::string path_;
+    Tables tables_;
 };
 
-class OpenPipe : public CPipeTable {
-  public:
-    using CPipeTable::CPipeTable;
-    int Sizes() const {
-        int sizes = 0;
-        for (const t_pipe_size* size = pipe_list; size != nullptr; size = size->next) ++sizes;
-        return sizes;
-    }
-};
+std::ptrdiff_t Sizes(const CPipeTable& pipe) {
+    return std::ranges::count_if(std::array{1.0, 2.0, 3.0},
+                                 [&pipe](double size) { return pipe.PipeDia(size) > 0.0; });
+}
 
 TEST_F(MemoryFaults, FluidLoadsOnceThereIsMemory) {
     CFluid fluid(HF_KELVIN, HF_KPA, 1, 0.0);
-    const auto load = [&] { fluid.SetFluid(path_.data(), "Plain", 300.0); };
+    const auto load = [&] { fluid.SetFluid(tables_.path.data(), "Plain", 300.0); };
     EXPECT_GT(FailEverywhere(load, [&] { EXPECT_EQ(fluid.GetFluidState(), FLUID_NONE); }), 0);
     EXPECT_EQ(fluid.GetFluidState(), FLUID_LIQUID);
     std::string lighter = kFluidTable;
-    folder_.Write("Lighter.FTBL", lighter.replace(lighter.find("1200"), 4, "1000"));
-    const auto change = [&] { fluid.SetFluid(path_.data(), "Lighter", 300.0, 900.0); };
+    tables_.Write("Lighter.FTBL", lighter.replace(lighter.find("1200"), 4, "1000"));
+    const auto change = [&] { fluid.SetFluid(tables_.path.data(), "Lighter", 300.0, 900.0); };
     const auto isTheFormer = [&] {
         EXPECT_STREQ(fluid.GetFluidName(), "Plain");
         EXPECT_EQ(fluid.GetDensity(), 900.0);
@@ -132,26 +116,24 @@ TEST_F(MemoryFaults, FluidLoadsOnceThereIsMemory) {
 }
 
 TEST_F(MemoryFaults, PipeTableHasTheSizesThatFoundRoom) {
-    OpenPipe pipe(HF_US);
+    CPipeTable pipe(HF_US);
     const auto load = [&] {
         pipe.LoadMaterial(nullptr, "Steel");
         pipe.LoadPipeList("40", nullptr);
     };
     const auto isSound = [&] {
-        EXPECT_EQ(pipe.IsValid(), pipe.Sizes() > 0);
-        EXPECT_LT(pipe.Sizes(), 3);
-        EXPECT_EQ(pipe.PipeDia(3.0), 0.0);
+        EXPECT_EQ(pipe.IsValid(), Sizes(pipe) > 0);
+        EXPECT_LT(Sizes(pipe), 3);
     };
     EXPECT_GT(FailEverywhere(load, isSound), 4);
     EXPECT_EQ(pipe.PipeDia(3.0), 3.068);
 
-    OpenPipe copy(HF_METRIC);
+    CPipeTable copy(HF_METRIC);
     const auto assign = [&] { copy = pipe; };
-    EXPECT_EQ(FailEverywhere(assign, [&] { EXPECT_LT(copy.Sizes(), 3); }), 3);
-    EXPECT_EQ(copy.Sizes(), 3);
-    EXPECT_EQ(pipe.Sizes(), 3);
+    EXPECT_EQ(FailEverywhere(assign, [&] { EXPECT_LT(Sizes(copy), 3); }), 3);
+    EXPECT_EQ(Sizes(copy), 3);
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): it is on test
-    EXPECT_EQ(FailEverywhere([&] { const OpenPipe copied(pipe); }, [] {}), 3);
+    EXPECT_EQ(FailEverywhere([&] { const CPipeTable copied(pipe); }), 3);
 }
 
 TEST_F(MemoryFaults, ListsOfPipesReleaseWhatTheyHad) {
@@ -163,12 +145,14 @@ TEST_F(MemoryFaults, ListsOfPipesReleaseWhatTheyHad) {
         granted = kNever;
         EXPECT_STREQ(sizes.get(), "1\t2\t3");
     };
-    EXPECT_GT(FailEverywhere(listAll, [] {}), 3);
+    EXPECT_GT(FailEverywhere(listAll), 3);
 }
 
 TEST_F(MemoryFaults, ValveTableHasTheDevicesThatFoundRoom) {
     CValveTable valves;
-    const auto load = [&] { valves.LoadValveTable(path_.c_str(), "Standard", HF_US, kFormulas); };
+    const auto load = [&] {
+        valves.LoadValveTable(tables_.path.c_str(), "Standard", HF_US, kFormulas);
+    };
     const auto isSound = [&] {
         const CValveType* elbow = valves.Find("Elbow");
         EXPECT_TRUE(elbow == nullptr || elbow->data_count == 4);
@@ -177,7 +161,7 @@ TEST_F(MemoryFaults, ValveTableHasTheDevicesThatFoundRoom) {
     EXPECT_GT(FailEverywhere(load, isSound), 8);
     EXPECT_NE(valves.Find("Fixed Kv"), nullptr);
     CValveTable copy;
-    EXPECT_EQ(FailEverywhere([&] { copy = valves; }, [] {}), 10) << "five devices with numbers";
+    EXPECT_EQ(FailEverywhere([&] { copy = valves; }), 10) << "five devices with numbers";
     EXPECT_NE(copy.Find("Fixed Kv"), nullptr);
     // A device keeps what it had.
     CValveType device(*valves.Find("Gate"));
@@ -188,11 +172,11 @@ TEST_F(MemoryFaults, ValveTableHasTheDevicesThatFoundRoom) {
 }
 
 TEST_F(MemoryFaults, IniFileIsWrittenWholeOrNotAtAll) {
-    std::string ini = folder_.Write("host.ini", "[B]\nx=1\n");
-    const std::string before = folder_.Read("host.ini");
+    std::string ini = tables_.Write("host.ini", "[B]\nx=1\n");
     CAtmPressure atmosphere;
     const auto save = [&] { EXPECT_TRUE(atmosphere.SetToINI(1.5, HF_BAR, ini.data())); };
-    EXPECT_GT(FailEverywhere(save, [&] { EXPECT_EQ(folder_.Read("host.ini"), before); }), 2);
+    const auto isUnchanged = [&] { EXPECT_EQ(tables_.Read("host.ini"), "[B]\nx=1\n"); };
+    EXPECT_GT(FailEverywhere(save, isUnchanged), 2);
     const auto read = [&] { EXPECT_TRUE(atmosphere.GetFromINI(ini.data())); };
     const double former = atmosphere.Value(HF_KPA);
     EXPECT_GT(FailEverywhere(read, [&] { EXPECT_EQ(atmosphere.Value(HF_KPA), former); }), 1);
@@ -205,34 +189,24 @@ TEST_F(MemoryFaults, DirectoryStaysAsItWas) {
     const auto isUnchanged = [&] {
         char buffer[260];
         GetDirectory(DIR_TABLES, buffer, 0);
-        EXPECT_EQ(buffer, path_);
+        EXPECT_EQ(buffer, tables_.path);
     };
     EXPECT_GT(FailEverywhere(set, isUnchanged), 0);
 }
 
 TEST_F(MemoryFaults, ScanThatFindsNoRoomLeavesNoNames) {
-    ForgetFluidTables();
-    const auto scan = [&] { CFluidScan().LoadFluidNames(path_.c_str(), FLUID_NONE, 0.0, 0.0); };
-    EXPECT_GT(FailEverywhere(scan, [&] { EXPECT_EQ(hydrofacts::FluidNamesFound(), ""); }), 2);
+    const auto scan = [&] { ScanAnew(tables_.path); };
+    const auto hasNone = [] { EXPECT_EQ(hydrofacts::FluidNamesFound(), ""); };
+    EXPECT_GT(FailEverywhere(scan, hasNone), 2);
     EXPECT_EQ(hydrofacts::FluidNamesFound(), "Plain\t");
-    ForgetFluidTables();
-}
-
-TEST_F(MemoryFaults, ScanWhoseThreadsFindNoRoomLeavesNoNames) {
-    constexpr int kTables = 220;
-    for (int i = 1; i < kTables; ++i) folder_.Write(std::to_string(i) + ".FTBL", kFluidTable);
-    ForgetFluidTables();
-    const auto scan = [&] { CFluidScan().LoadFluidNames(path_.c_str(), FLUID_NONE, 0.0, 0.0); };
-    EXPECT_GT(FailEverywhere(scan, [&] { EXPECT_EQ(hydrofacts::FluidNamesFound(), ""); }), kTables);
-    EXPECT_EQ(std::ranges::count(hydrofacts::FluidNamesFound(), '\t'), kTables);
-    ForgetFluidTables();
+    tables_.FillUp();
+    EXPECT_GT(FailEverywhere(scan, hasNone), kManyTables) << "in threads of its own";
+    EXPECT_EQ(std::ranges::count(hydrofacts::FluidNamesFound(), '\t'), kManyTables);
 }
 
 TEST_F(MemoryFaults, ScanThatIsRefusedHelpersDoesWithoutThem) {
-    constexpr int kTables = 220;
     constexpr std::size_t kNoSuchStack = std::size_t{1} << 46U;
-    for (int i = 1; i < kTables; ++i) folder_.Write(std::to_string(i) + ".FTBL", kFluidTable);
-    ForgetFluidTables();
+    tables_.FillUp();
     pthread_attr_t former;
     pthread_attr_t none;
     ASSERT_EQ(::pthread_getattr_default_np(&former), 0);
@@ -240,10 +214,9 @@ TEST_F(MemoryFaults, ScanThatIsRefusedHelpersDoesWithoutThem) {
     ASSERT_EQ(::pthread_attr_setstacksize(&none, kNoSuchStack), 0);
     ASSERT_EQ(::pthread_setattr_default_np(&none), 0);
     EXPECT_THROW(std::jthread([] {}), std::system_error);
-    CFluidScan().LoadFluidNames(path_.c_str(), FLUID_NONE, 0.0, 0.0);
+    ScanAnew(tables_.path);
     ::pthread_setattr_default_np(&former);
-    EXPECT_EQ(std::ranges::count(hydrofacts::FluidNamesFound(), '\t'), kTables);
-    ForgetFluidTables();
+    EXPECT_EQ(std::ranges::count(hydrofacts::FluidNamesFound(), '\t'), kManyTables);
 }
 
 // On its own thread nobody could catch what the scan throws.
@@ -251,20 +224,20 @@ TEST_F(MemoryFaults, ScanInTheBackgroundEndsWithoutNames) {
     constexpr int kMostAllocations = 20;
     for (int allowed = 0; allowed < kMostAllocations; ++allowed) {
         ForgetFluidTables();
+        granted = allowed;
         try {
-            const Refusing refusing(allowed);
             InitFluidTableCache(FLUID_NONE);
             ::usleep(10000);  // the thread's allocations are refused too
         } catch (const std::bad_alloc&) {
-            continue;  // there was none for the thread itself
+            granted = kNever;  // there was none for the thread itself
         }
+        granted = kNever;
         const std::string found = hydrofacts::FluidNamesFound();
         EXPECT_TRUE(found.empty() || found == "Plain\t") << found;
     }
     InitFluidTableCache(FLUID_NONE);
     for (int i = 0; i < 1000 && hydrofacts::FluidNamesFound().empty(); ++i) ::usleep(10000);
     EXPECT_EQ(hydrofacts::FluidNamesFound(), "Plain\t");
-    ForgetFluidTables();
 }
 
 }  // namespace
