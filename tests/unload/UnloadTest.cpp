@@ -22,8 +22,9 @@ namespace {
 #ifdef _WIN32
 
 void* Load() { return LoadLibraryA(HYDROFACTS_LIBRARY); }
-void* Find(void* library, const char* name) {
-    return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(library), name));
+template <class Function>
+Function* Find(void* library, const char* name) {
+    return reinterpret_cast<Function*>(GetProcAddress(static_cast<HMODULE>(library), name));
 }
 void LetGo(void* library) { FreeLibrary(static_cast<HMODULE>(library)); }
 bool IsLoaded() { return GetModuleHandleA(HYDROFACTS_LIBRARY) != nullptr; }
@@ -31,7 +32,10 @@ bool IsLoaded() { return GetModuleHandleA(HYDROFACTS_LIBRARY) != nullptr; }
 #else
 
 void* Load() { return ::dlopen(HYDROFACTS_LIBRARY, RTLD_NOW | RTLD_LOCAL); }
-void* Find(void* library, const char* name) { return ::dlsym(library, name); }
+template <class Function>
+Function* Find(void* library, const char* name) {
+    return reinterpret_cast<Function*>(::dlsym(library, name));
+}
 void LetGo(void* library) { ::dlclose(library); }
 bool IsLoaded() {
     void* library = ::dlopen(HYDROFACTS_LIBRARY, RTLD_NOW | RTLD_NOLOAD);
@@ -46,22 +50,19 @@ using std::chrono::milliseconds;
 class Unload : public ::testing::Test {
   protected:
     Unload() {
-        constexpr int kTables = 2000;
-        for (int i = 0; i < kTables; ++i) folder_.Add("Fluid " + std::to_string(i), {});
+        for (int i = 0; i < 2000; ++i) folder_.Add("Fluid " + std::to_string(i), {});
     }
 
     // Loads the library and goes on after a part of the scan.
-    void* Scan(milliseconds time) {
+    void* Scan(int time) {
         void* library = Load();
-        const auto setDirectory = reinterpret_cast<void (*)(DirTypes, const char*)>(
-            Find(library, "_Z12SetDirectory8DirTypesPKc"));
-        const auto scan =
-            reinterpret_cast<void (*)(int)>(Find(library, "_Z19InitFluidTableCachei"));
-        if (setDirectory == nullptr || scan == nullptr) std::abort();
+        auto* setDirectory =
+            Find<void(DirTypes, const char*)>(library, "_Z12SetDirectory8DirTypesPKc");
+        auto* scan = Find<void(int)>(library, "_Z19InitFluidTableCachei");
         setDirectory(DIR_TABLES, folder_.path.c_str());
         scan(FLUID_NONE);
         scan(FLUID_NONE);
-        std::this_thread::sleep_for(time);
+        std::this_thread::sleep_for(milliseconds(time));
         return library;
     }
 
@@ -70,7 +71,7 @@ class Unload : public ::testing::Test {
 
 TEST_F(Unload, LibraryGoesWhileItsThreadScans) {
     for (const int time : {0, 0, 1, 3, 10}) {
-        LetGo(Scan(milliseconds(time)));
+        LetGo(Scan(time));
         // On Windows the thread holds the library until the scan's end.
         for (int i = 0; i < 1000 && IsLoaded(); ++i) std::this_thread::sleep_for(milliseconds(10));
         EXPECT_FALSE(IsLoaded()) << time;
@@ -79,12 +80,7 @@ TEST_F(Unload, LibraryGoesWhileItsThreadScans) {
 
 TEST_F(Unload, ProgramEndsWhileAThreadOfTheLibraryScans) {
     for (const int time : {0, 1, 10}) {
-        EXPECT_EXIT(
-            {
-                Scan(milliseconds(time));
-                std::exit(0);
-            },
-            ::testing::ExitedWithCode(0), "");
+        EXPECT_EXIT((Scan(time), std::exit(0)), ::testing::ExitedWithCode(0), "") << time;
     }
 }
 
