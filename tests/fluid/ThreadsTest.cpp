@@ -4,6 +4,7 @@
 #include <thread>
 #include <vector>
 
+#include "hydrofacts/frame/Language.h"
 #include "quillbase/Directory.h"
 #include "tests/fluid/TestFluid.h"
 
@@ -26,6 +27,31 @@ int FluidFaults(std::string directory) {
     return faults;
 }
 
+int ConversionFaults() {
+    int faults = 0;
+    const Units* units = Units::defaultUnits();
+    for (int i = 0; i < kRounds * 20; ++i) {
+        if (units->Convert(HF_PRESSURE, 2.0, HF_BAR, HF_KPA, nullptr) != 200.0) ++faults;
+        if (units->Convert(HF_FLOW, 2.0, HF_SCFS, HF_SCFM, nullptr) != 120.0) ++faults;
+        if (Units::GetUnit("kpa", HF_PRESSURE) != HF_KPA) ++faults;
+    }
+    return faults;
+}
+
+int LanguageFaults(unsigned long language) {
+    int faults = 0;
+    for (int i = 0; i < kRounds * 5; ++i) {
+        char buffer[160];
+        Hydrofacts_SetLanguage(language);
+        Hydrofacts_GetMessage(8, buffer, sizeof buffer);
+        const std::string message = buffer;
+        if (message != "Pipe Table for %s is Invalid." &&
+            message != "Rohrtabelle f\xFCr %s ist ung\xFCltig.")
+            ++faults;
+    }
+    return faults;
+}
+
 int DirectoryFaults(const std::string& directory) {
     int faults = 0;
     for (int i = 0; i < kRounds * 5; ++i) {
@@ -38,22 +64,26 @@ int DirectoryFaults(const std::string& directory) {
     return faults;
 }
 
-TEST(Threads, EachWorksOnItsOwnFluidWhileTheDirectoryChanges) {
+TEST(Threads, EachWorksOnItsOwnFluidWhileTheSharedServicesAreInUse) {
     TableFolder folder;
     folder.Add("Plain", {});
     FluidText other;
     other.formulas[4] = kPengRobinson;
     folder.Add("Other", other);
-    std::vector<int> faults(6, -1);
+    std::vector<int> faults(10, -1);
     std::vector<std::thread> threads;
     const auto start = [&](auto work) {
         threads.emplace_back([work, &result = faults[threads.size()]] { result = work(); });
     };
     for (int i = 0; i < 4; ++i) start([&folder] { return FluidFaults(folder.path); });
+    for (int i = 0; i < 2; ++i) start([] { return ConversionFaults(); });
+    for (const unsigned long language : {1033UL, 1031UL})
+        start([language] { return LanguageFaults(language); });
     for (const char* directory : {"/first/tables/", "/second"})
         start([directory] { return DirectoryFaults(directory); });
     for (std::thread& thread : threads) thread.join();
-    EXPECT_EQ(faults, std::vector<int>(6, 0));
+    EXPECT_EQ(faults, std::vector<int>(10, 0));
+    Hydrofacts_SetLanguage(1033);
     SetDirectory(DIR_TABLES, nullptr);
 }
 
