@@ -1,17 +1,11 @@
-// What stands on the controls, in every language: nothing is cut off, and no two controls of a page
-// share a mnemonic.
-
-#include <gtest/gtest.h>
+// What stands on the controls, in every language.
 
 #include <cctype>
-#include <iterator>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "demo/MainDialog.h"
-#include "win32/User.h"
+#include "tests/demo/DemoTest.h"
 
 #ifndef _WIN32
 #include <QApplication>
@@ -23,13 +17,9 @@
 namespace demo {
 namespace {
 
-constexpr const char* kPageTexts[] = {"Fluid", "Conditions", "Temperature", "Pipe", "Valve"};
-
 #ifdef _WIN32
-// Texts are measured with the font of the dialog.
-class Screen {
-  public:
-    static int WidthOf(HWND control, const std::string& text) {
+struct Screen {
+    static LONG WidthOf(HWND control, const std::string& text) {
         const HDC dc = GetDC(control);
         const auto font = reinterpret_cast<HGDIOBJ>(SendMessageA(control, WM_GETFONT, 0, 0));
         const HGDIOBJ former = SelectObject(dc, font);
@@ -37,122 +27,73 @@ class Screen {
         GetTextExtentPoint32A(dc, text.data(), static_cast<int>(text.size()), &size);
         SelectObject(dc, former);
         ReleaseDC(control, dc);
-        return static_cast<int>(size.cx);
+        return size.cx;
     }
 };
 #else
-class Screen {
-  public:
-    static int WidthOf(HWND, const std::string& text) {
-        return QFontMetrics(QApplication::font())
-            .horizontalAdvance(QString::fromLatin1(text.c_str()));
+struct Screen {
+    static LONG WidthOf(HWND, const std::string& text) {
+        return QFontMetrics(QApplication::font()).horizontalAdvance(QString::fromLatin1(text));
     }
 
-  private:
-    int argc_ = 1;
-    char name_[5] = "demo";
-    char* argv_[2] = {name_, nullptr};
-    bool offscreen_ = qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application_{argc_, argv_};
-    win32::qt::QtView view_;
+    int argc = 1;
+    char name[5] = "demo";
+    char* argv[2] = {name, nullptr};
+    bool offscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application{argc, argv};
+    win32::qt::QtView view;
 };
 #endif
 
-std::string ClassOf(HWND window) {
+DWORD StyleOf(HWND window) { return static_cast<DWORD>(GetWindowLongPtrA(window, GWL_STYLE)); }
+
+bool IsButton(HWND control) {
     char name[32] = "";
-    GetClassNameA(window, name, sizeof name);
-    return name;
+    GetClassNameA(control, name, sizeof name);
+    return std::string(name) == "Button";
 }
 
-LONG_PTR StyleOf(HWND window) { return GetWindowLongPtrA(window, GWL_STYLE); }
-
-bool IsKind(HWND control, DWORD mask, DWORD kind) {
-    return (static_cast<DWORD>(StyleOf(control)) & mask) == kind;
-}
-
-bool IsButton(HWND control) { return ClassOf(control) == "Button"; }
-
-// Of those that say what a label says, not what was chosen.
-std::vector<HWND> LabelsOf(HWND dialog) {
-    std::vector<HWND> labels;
+// Of the controls that say what a label says, not what was chosen.
+void AddLabels(HWND dialog, std::vector<HWND>& labels) {
     for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
          control = GetWindow(control, GW_HWNDNEXT)) {
-        const bool label = ClassOf(control) == "Static" &&
-                           (StyleOf(control) & static_cast<LONG_PTR>(SS_NOPREFIX)) == 0 &&
-                           !IsKind(control, SS_TYPEMASK, SS_OWNERDRAW);
-        const bool seen = (StyleOf(control) & static_cast<LONG_PTR>(WS_VISIBLE)) != 0;
-        if (seen && (label || IsButton(control))) labels.push_back(control);
+        const DWORD style = StyleOf(control);
+        const bool text = (SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) != 0 &&
+                          (style & SS_NOPREFIX) == 0 && (style & SS_TYPEMASK) != SS_OWNERDRAW;
+        if ((style & WS_VISIBLE) != 0 && (text || IsButton(control))) labels.push_back(control);
     }
-    return labels;
 }
 
-class LabelsTest : public ::testing::TestWithParam<int> {
-  protected:
-    LabelsTest() {
-        char tables[260] = "";
-        GetDirectory(DIR_TABLES, tables, sizeof tables);
-        Site site;
-        site.tables = tables;
-        dialog_ = std::make_unique<MainDialog>(site);
-        EXPECT_TRUE(dialog_->Create());
-        win32::user::PickRow(GetDlgItem(dialog_->Handle(), kLanguage), GetParam());
-    }
-    ~LabelsTest() override {
-        Hydrofacts_SetLanguage(LanguageId(0));
-        DestroyWindow(dialog_->Handle());
-    }
-
-    HWND Page(std::size_t page) const { return dialog_->At(static_cast<int>(page)).Handle(); }
-
-    Screen screen_;
-    std::unique_ptr<MainDialog> dialog_;
-};
-
-// What a button needs around its text, in mean widths of a letter.
-int RoomAround(HWND control) {
-    RECT unit{0, 0, 4, 8};
-    MapDialogRect(GetParent(control), &unit);
-    const auto letter = static_cast<int>(unit.right);
+// What a button needs around its text.
+LONG RoomAround(HWND control) {
+    RECT letter{0, 0, 4, 8};
+    MapDialogRect(GetParent(control), &letter);
     if (!IsButton(control)) return 0;
-    if (IsKind(control, BS_TYPEMASK, BS_AUTORADIOBUTTON)) return 3 * letter;
-    return 2 * letter;
+    return letter.right * ((StyleOf(control) & BS_TYPEMASK) == BS_AUTORADIOBUTTON ? 3 : 2);
 }
 
-TEST_P(LabelsTest, AreNotCutOff) {
-    std::vector<HWND> dialogs{dialog_->Handle()};
-    for (std::size_t page = 0; page < std::size(kPageTexts); ++page) dialogs.push_back(Page(page));
-    for (const HWND dialog : dialogs) {
-        for (const HWND label : LabelsOf(dialog)) {
+class LabelsTest : protected Screen, public DemoTest {};
+
+TEST_F(LabelsTest, AreNotCutOffAndHaveMnemonicsOfTheirOwn) {
+    constexpr int kPageCount = 5;
+    for (int i = 0; i < kLanguages * kPageCount; ++i) {
+        win32::user::PickRow(Main(kLanguage), i / kPageCount);
+        std::vector<HWND> labels;
+        AddLabels(dialog_.Handle(), labels);
+        AddLabels(dialog_.At(i % kPageCount).Handle(), labels);
+        std::map<int, std::string> taken;
+        for (const HWND label : labels) {
             std::string text = TextOf(label);
+            if (const std::size_t at = text.find('&') + 1; at > 0 && at < text.size()) {
+                const int key = std::tolower(static_cast<unsigned char>(text[at]));
+                const auto [other, fresh] = taken.try_emplace(key, text);
+                EXPECT_TRUE(fresh) << text << " and " << other->second;
+            }
             std::erase(text, '&');
-            const int room = static_cast<int>(SizeOf(label).cx) - RoomAround(label);
-            EXPECT_LE(Screen::WidthOf(label, text), room)
-                << text << " (" << GetDlgCtrlID(label) << ")";
+            EXPECT_LE(WidthOf(label, text), SizeOf(label).cx - RoomAround(label)) << text;
         }
     }
 }
-
-TEST_P(LabelsTest, HaveMnemonicsOfTheirOwn) {
-    const auto collect = [](HWND dialog, std::map<char, std::string>& taken) {
-        for (const HWND label : LabelsOf(dialog)) {
-            const std::string text = TextOf(label);
-            const std::size_t at = text.find('&');
-            if (at == std::string::npos || at + 1 == text.size()) continue;
-            const auto key =
-                static_cast<char>(std::tolower(static_cast<unsigned char>(text[at + 1])));
-            const auto [other, fresh] = taken.try_emplace(key, text);
-            EXPECT_TRUE(fresh) << text << " and " << other->second;
-        }
-    };
-    for (std::size_t page = 0; page < std::size(kPageTexts); ++page) {
-        SCOPED_TRACE(kPageTexts[page]);
-        std::map<char, std::string> taken;
-        collect(dialog_->Handle(), taken);
-        collect(Page(page), taken);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Languages, LabelsTest, ::testing::Range(0, kLanguages));
 
 }  // namespace
 }  // namespace demo
