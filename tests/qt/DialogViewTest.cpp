@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QLineEdit>
@@ -13,10 +12,8 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
-using win32::qt::QtView;
 
-enum : int { kEdit = 101, kOpen, kPage, kOnPage };
+enum : int { kEdit = 101, kOpen };
 
 win32::DialogBuilder Form(DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU) {
     win32::DialogBuilder form("Title \x80", style, {0, 0, 160, 60});
@@ -25,49 +22,29 @@ win32::DialogBuilder Form(DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU) {
     return form;
 }
 
-/// A modal dialog as hosts have them. What is to happen once it is up is done from Qt's loop, as by
-/// a user; its result is the id of the button that ended it.
-class Modal {
-  public:
-    using Act = std::function<void(HWND dialog)>;
+/// What happens in a modal dialog: at first what a user does, from Qt's loop once the dialog is up;
+/// then what the host does at a click on the button kOpen.
+using Act = std::function<void(HWND dialog, bool opened)>;
 
-    Modal(QtView& view, Act whenShown) : view_(view), whenShown_(std::move(whenShown)) {}
-    /// What the button kOpen does.
-    Act whenOpened;
-
-    INT_PTR Run(HWND owner) {
-        const win32::DialogBuilder form = Form();
-        return DialogBoxIndirectParamA(nullptr, form.Template(), owner, &Procedure,
-                                       reinterpret_cast<LPARAM>(this));
-    }
-    QWidget* WidgetOf(HWND dialog, int id) { return view_.WidgetOf(GetDlgItem(dialog, id)); }
-    static void ClickOn(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton); }
-
-  private:
-    static INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-        if (message == WM_INITDIALOG) {
-            SetWindowLongPtrA(dialog, DWLP_USER, lParam);
-            auto* self = reinterpret_cast<Modal*>(lParam);
-            QTimer::singleShot(1, [self, dialog] { self->whenShown_(dialog); });
-            return TRUE;
-        }
-        auto* self = reinterpret_cast<Modal*>(GetWindowLongPtrA(dialog, DWLP_USER));
-        if (message != WM_COMMAND || HIWORD(wParam) != BN_CLICKED) return FALSE;
-        if (LOWORD(wParam) == kOpen && self->whenOpened) self->whenOpened(dialog);
-        if (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL) {
-            EndDialog(dialog, LOWORD(wParam));
-        }
-        return TRUE;
-    }
-
-    QtView& view_;
-    Act whenShown_;
-};
+/// Runs a modal dialog as hosts do; gives the id of the button that ended it.
+INT_PTR RunModal(HWND owner, const Act& acts) {
+    const auto procedure = [](HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) -> INT_PTR {
+        if (message == WM_INITDIALOG) SetWindowLongPtrA(dialog, DWLP_USER, lParam);
+        const auto& act = *reinterpret_cast<const Act*>(GetWindowLongPtrA(dialog, DWLP_USER));
+        if (message == WM_INITDIALOG) QTimer::singleShot(1, [&act, dialog] { act(dialog, false); });
+        const bool clicked = message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED;
+        if (clicked && LOWORD(wParam) == kOpen) act(dialog, true);
+        if (clicked && LOWORD(wParam) != kOpen) EndDialog(dialog, LOWORD(wParam));
+        return message == WM_INITDIALOG;
+    };
+    const win32::DialogBuilder form = Form();
+    return DialogBoxIndirectParamA(nullptr, form.Template(), owner, procedure,
+                                   reinterpret_cast<LPARAM>(&acts));
+}
 
 TEST(DialogView, ShowsItselfAsItsTemplateSays) {
     ShownDialog dialog(Form());
     EXPECT_EQ(dialog.Window().windowTitle(), QString::fromUtf8("Title €"));
-    EXPECT_TRUE(dialog.Window().isVisible());
     EXPECT_TRUE(dialog.Window().windowFlags().testFlag(Qt::WindowCloseButtonHint));
     EXPECT_EQ(dialog.Window().minimumSize(), dialog.Window().maximumSize());
     // Dialog units are those of the application's font.
@@ -91,98 +68,80 @@ TEST(DialogView, IsClosedByItsTitleBar) {
     ShownDialog dialog(Form());
     EXPECT_FALSE(dialog.Window().close());  // that is for the dialog to decide
     dialog.Settle();
-    EXPECT_THAT(dialog.Model().TakeLog(), ElementsAre(Notification{IDCANCEL, BN_CLICKED}));
+    EXPECT_THAT(dialog.TakeLog(), ElementsAre(Notification{IDCANCEL, BN_CLICKED}));
     EXPECT_TRUE(dialog.Window().isVisible());
     EnableWindow(dialog.Handle(), FALSE);
     dialog.Window().close();
     dialog.Press(Qt::Key_Escape);
-    EXPECT_THAT(dialog.Model().TakeLog(), IsEmpty());
+    EXPECT_THAT(dialog.TakeLog(), testing::IsEmpty());
 }
 
 TEST(DialogView, IsResizedWithinItsLimits) {
-    struct Sizes {
-        std::vector<QSize> told;
-        POINT least{200, 150};
-    };
-    static Sizes sizes;
-    sizes = {};
-    const DLGPROC procedure = [](HWND, UINT message, WPARAM, LPARAM lParam) -> INT_PTR {
-        if (message == WM_SIZE) sizes.told.emplace_back(LOWORD(lParam), HIWORD(lParam));
+    static std::vector<QSize> told;
+    static POINT least;
+    least = {200, 150};
+    const auto procedure = [](HWND, UINT message, WPARAM, LPARAM lParam) -> INT_PTR {
+        if (message == WM_SIZE) told.emplace_back(LOWORD(lParam), HIWORD(lParam));
         if (message == WM_GETMINMAXINFO) {
-            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = sizes.least;
+            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = least;
         }
         return FALSE;
     };
-    QtView view;
-    const win32::DialogBuilder form = Form(WS_POPUP | WS_CAPTION | WS_THICKFRAME | WS_VISIBLE);
+    QtUser user;
+    const win32::DialogBuilder form = Form(WS_POPUP | WS_CAPTION | WS_THICKFRAME);
     HWND dialog = CreateDialogIndirectParamA(nullptr, form.Template(), nullptr, procedure, 0);
-    ShownDialog::SettleView(view, dialog);
-    QWidget& window = *view.WidgetOf(dialog);
-    EXPECT_EQ(window.minimumSize(), QSize(200, 150));
-    sizes.told.clear();
-    window.resize(500, 400);  // as the desktop does it for the user
-    ShownDialog::SettleView(view, dialog);
-    EXPECT_THAT(sizes.told, ElementsAre(QSize(500, 400)));
-    RECT place{};
-    GetClientRect(dialog, &place);
-    EXPECT_EQ(QSize(place.right, place.bottom), QSize(500, 400));
-    MoveWindow(dialog, 0, 0, 300, 10, TRUE);
-    ShownDialog::SettleView(view, dialog);
-    EXPECT_EQ(window.size(), QSize(300, 150));
-    sizes.least = {300, 150};
-    window.resize(250, 150);  // which the dialog refuses by now
-    ShownDialog::SettleView(view, dialog);
-    EXPECT_EQ(window.size(), QSize(300, 150));
+    user.Show(dialog);
+    EXPECT_EQ(user.Window().minimumSize(), QSize(200, 150));
+    told.clear();
+    user.Window().resize(500, 400);  // as the desktop does it for the user
+    user.Settle();
+    EXPECT_THAT(told, ElementsAre(QSize(500, 400)));
+    least = {300, 150};
+    user.Window().resize(250, 150);  // which the dialog refuses by now
+    user.Settle();
+    EXPECT_EQ(user.Window().size(), QSize(300, 150));
     DestroyWindow(dialog);
-    EXPECT_EQ(view.WidgetOf(dialog), nullptr);
 }
 
 TEST(DialogView, RunsNestedModalDialogs) {
     ShownDialog owner(Form());
+    auto& open = owner.Widget<QPushButton>(kOpen);
+    const auto press = [&](HWND dialog, Qt::Key key) {
+        QTest::keyClick(owner.View().WidgetOf(GetDlgItem(dialog, kEdit)), key);
+    };
     std::vector<INT_PTR> results;
-    const auto click = [&](QWidget& widget) { Modal::ClickOn(&widget); };
-    Modal inner(owner.View(), [&](HWND dialog) {
+    const auto inner = [&](HWND dialog, bool) {
         // All windows below are out of reach; their controls look as before.
-        EXPECT_TRUE(owner.Widget<QPushButton>(kOpen).isEnabled());
-        click(owner.Widget<QPushButton>(kOpen));
+        EXPECT_TRUE(open.isEnabled());
+        QTest::mouseClick(&open, Qt::LeftButton);
         EXPECT_EQ(owner.View().WidgetOf(dialog)->windowModality(), Qt::WindowModal);
         // Nor does the desktop get them in front for long.
         owner.Window().activateWindow();
         QTimer::singleShot(30, [&, dialog] {
             EXPECT_TRUE(owner.View().WidgetOf(dialog)->isActiveWindow());
-            QTest::keyClicks(inner.WidgetOf(dialog, kEdit), QStringLiteral("inner"));
-            QTest::keyClick(inner.WidgetOf(dialog, kEdit), Qt::Key_Return);
-        });
-    });
-    Modal outer(owner.View(), [&](HWND dialog) { Modal::ClickOn(outer.WidgetOf(dialog, kOpen)); });
-    outer.whenOpened = [&](HWND dialog) {
-        results.push_back(inner.Run(dialog));
-        QTimer::singleShot(1, [&outer, dialog] {
-            QTest::keyClick(outer.WidgetOf(dialog, kEdit), Qt::Key_Escape);
+            press(dialog, Qt::Key_Return);
         });
     };
-    int opened = 0;
-    owner.Model().Forward([&](int id, int code) {
-        if (id != kOpen || code != BN_CLICKED) return;
-        ++opened;
-        results.push_back(outer.Run(owner.Handle()));
+    const auto outer = [&](HWND dialog, bool opened) {
+        auto* button = owner.View().WidgetOf(GetDlgItem(dialog, kOpen));
+        if (!opened) return QTest::mouseClick(button, Qt::LeftButton);
+        results.push_back(RunModal(dialog, inner));
+        QTimer::singleShot(1, [&, dialog] { press(dialog, Qt::Key_Escape); });
+    };
+    owner.Forward([&](int id, int code) {
+        if (id == kOpen && code == BN_CLICKED) results.push_back(RunModal(owner.Handle(), outer));
     });
-    owner.Click(owner.Widget<QPushButton>(kOpen));
+    owner.Click(open);
     EXPECT_THAT(results, ElementsAre(IDOK, IDCANCEL));
-    EXPECT_EQ(opened, 1);
     EXPECT_EQ(GetActiveWindow(), owner.Handle());
-    EXPECT_EQ(GetFocus(), owner.Item(kOpen));
-    owner.Settle();
-    owner.Type("o");
-    EXPECT_EQ(&owner.Focus(), &owner.Widget<QPushButton>(kOpen));
-    EXPECT_TRUE(IsWindowEnabled(owner.Handle()));
+    EXPECT_EQ(&owner.Focus(), &open);
 }
 
 TEST(DialogView, SurvivesWindowsThatEndWhileTheyAreUsed) {
     // A control, the list of it dropped, and the dialog itself go in the midst of what they tell.
     for (const int victim : {int{kEdit}, int{kOpen}, 0}) {
         ShownDialog dialog(Form());
-        dialog.Model().Forward([&](int id, int) {
+        dialog.Forward([&](int id, int) {
             if (id == kOpen || (id == kEdit && victim == kEdit)) {
                 DestroyWindow(victim == 0 ? dialog.Handle() : dialog.Item(victim));
             }
@@ -197,99 +156,61 @@ TEST(DialogView, SurvivesWindowsThatEndWhileTheyAreUsed) {
     }
 }
 
-TEST(DialogView, LeadsThroughPages) {
-    ShownDialog dialog(Form());
-    win32::DialogBuilder page("", WS_CHILD | WS_VISIBLE | DS_CONTROL, {70, 2, 80, 20},
-                              WS_EX_CONTROLPARENT);
-    page.Edit(kOnPage, {5, 2, 40, 12});
-    HWND shown = CreateDialogIndirectParamA(nullptr, page.Template(), dialog.Handle(), nullptr, 0);
-    ASSERT_NE(shown, nullptr);
-    dialog.Settle();
-    QWidget* widget = dialog.View().WidgetOf(shown);
-    auto* edit = dynamic_cast<QLineEdit*>(dialog.View().WidgetOf(GetDlgItem(shown, kOnPage)));
-    ASSERT_NE(edit, nullptr);
-    EXPECT_EQ(widget->parentWidget(), &dialog.Window());
-    EXPECT_FALSE(widget->isWindow());
-    EXPECT_TRUE(edit->isVisible());
-    SetFocus(dialog.Item(IDCANCEL));
-    dialog.Settle();
-    dialog.Press(Qt::Key_Tab);
-    EXPECT_TRUE(edit->hasFocus());
-    dialog.Type("7");
-    EXPECT_EQ(edit->text(), QStringLiteral("7"));
-    EnableWindow(shown, FALSE);
-    dialog.Settle();
-    EXPECT_TRUE(edit->isEnabled());  // it looks as before, but takes nothing
-    dialog.Click(*edit);
-    QTest::keyClicks(edit, QStringLiteral("8"));
-    dialog.Settle();
-    EXPECT_EQ(edit->text(), QStringLiteral("7"));
-    ShowWindow(shown, SW_HIDE);
-    dialog.Settle();
-    EXPECT_FALSE(edit->isVisible());
-}
-
 TEST(DialogView, ShowsWindowsThatWereThereBeforeIt) {
     TestDialog dialog(Form());
     SetDlgItemTextA(dialog.Handle(), kEdit, "before");
     {
-        QtView view;
-        EXPECT_EQ(view.WidgetOf(dialog.Handle()), nullptr);
-        ShowWindow(dialog.Handle(), SW_SHOW);
-        ShownDialog::SettleView(view, dialog.Handle());
-        auto* edit = dynamic_cast<QLineEdit*>(view.WidgetOf(dialog.Item(kEdit)));
-        ASSERT_NE(edit, nullptr);
-        EXPECT_EQ(edit->text(), QStringLiteral("before"));
-        EXPECT_TRUE(edit->isVisible());
+        QtUser user;
+        EXPECT_EQ(user.View().WidgetOf(dialog.Handle()), nullptr);
+        user.Show(dialog.Handle());
+        auto& edit = user.WidgetOf<QLineEdit>(dialog.Item(kEdit));
+        EXPECT_EQ(edit.text(), QStringLiteral("before"));
+        EXPECT_TRUE(edit.isVisible());
     }
-    QtView again;  // it is the active window by now
-    ShownDialog::SettleView(again, dialog.Handle());
-    ASSERT_NE(again.WidgetOf(dialog.Item(kEdit)), nullptr);
-    EXPECT_TRUE(again.WidgetOf(dialog.Handle())->isVisible());
+    QtUser again;  // it is the active window by now
+    EXPECT_NE(again.View().WidgetOf(dialog.Item(kEdit)), nullptr);
 }
 
 TEST(DialogView, IsServedByTheLoopOfQt) {
     ShownDialog dialog(Form());
     dialog.View().HandleMessagesInQtLoop(true);
+    auto& edit = dialog.Widget<QLineEdit>(kEdit);
+    // Messages of other threads come in without an event of Qt.
+    const auto clickFromAnotherThread = [](HWND button) {
+        std::thread(PostMessageA, button, BM_CLICK, 0, 0).detach();
+    };
     std::vector<std::string> seen;
-    dialog.Model().Forward([&](int id, int code) {
-        if (id == kEdit && code == EN_CHANGE) seen.push_back(dialog.Model().Text(kEdit));
+    dialog.Forward([&](int id, int code) {
+        if (id == kEdit && code == EN_CHANGE) seen.push_back(dialog.Text(kEdit));
         if (id == IDOK) PostQuitMessage(7);
         if (id != kOpen || code != BN_CLICKED) return;
         // A modal dialog has the loop of the host's thread, until it ends.
-        Modal modal(dialog.View(), [&](HWND shown) {
-            QTest::keyClicks(dialog.View().WidgetOf(GetDlgItem(shown, kEdit)), QStringLiteral("3"));
-            std::thread([ok = GetDlgItem(shown, IDOK)] {
-                PostMessageA(ok, BM_CLICK, 0, 0);
-            }).detach();
+        const INT_PTR result = RunModal(dialog.Handle(), [&](HWND shown, bool) {
+            clickFromAnotherThread(GetDlgItem(shown, IDOK));
         });
-        seen.push_back(std::to_string(modal.Run(dialog.Handle())));
-        // Messages of other threads come in without an event of Qt.
-        std::thread([ok = dialog.Item(IDOK)] { PostMessageA(ok, BM_CLICK, 0, 0); }).detach();
+        seen.push_back(std::to_string(result));
+        clickFromAnotherThread(dialog.Item(IDOK));
     });
     QTimer::singleShot(0, [&] {
-        QTest::mouseClick(&dialog.Widget<QLineEdit>(kEdit), Qt::LeftButton);
-        QTest::keyClicks(&dialog.Widget<QLineEdit>(kEdit), QStringLiteral("12"));
-        QTest::keyClick(&dialog.Widget<QLineEdit>(kEdit), Qt::Key_Tab);
-        QTest::keyClick(&dialog.Widget<QLineEdit>(kEdit), Qt::Key_Space);
+        QTest::mouseClick(&edit, Qt::LeftButton);
+        QTest::keyClicks(&edit, QStringLiteral("12"));
+        QTest::keyClick(&edit, Qt::Key_Tab);
+        QTest::keyClick(&edit, Qt::Key_Space);
     });
     QTimer::singleShot(20000, [] { QCoreApplication::exit(1); });
     EXPECT_EQ(QApplication::exec(), 7);
     EXPECT_THAT(seen, ElementsAre("1", "12", std::to_string(IDOK)));
-    EXPECT_EQ(dialog.Widget<QLineEdit>(kEdit).text(), QStringLiteral("12"));
 }
 
 TEST(DialogView, FollowsTheUserToAnotherWindow) {
     ShownDialog first(Form());
-    const win32::DialogBuilder form = Form();
-    HWND second = CreateDialogIndirectParamA(nullptr, form.Template(), nullptr, nullptr, 0);
-    ShowWindow(second, SW_SHOW);
+    TestDialog second(Form());
+    ShowWindow(second.Handle(), SW_SHOW);
     first.Settle();
-    EXPECT_TRUE(first.View().WidgetOf(second)->isActiveWindow());
+    EXPECT_TRUE(first.View().WidgetOf(second.Handle())->isActiveWindow());
     first.Window().activateWindow();
     first.Settle();
     EXPECT_EQ(GetActiveWindow(), first.Handle());
-    DestroyWindow(second);
 }
 
 }  // namespace
