@@ -4,13 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <initializer_list>
+#include <filesystem>
 #include <mutex>
 #include <string>
 #include <vector>
 
 #include "hydrofacts/dialogs/CFluidDlg.h"
 #include "hydrofacts/dialogs/FluidNames.h"
+#include "hydrofacts/frame/Language.h"
 #include "hydrofacts/frame/Module.h"
 #include "tests/dialogs/TestDialog.h"
 #include "tests/fluid/TestFluid.h"
@@ -35,31 +36,26 @@ enum : int {
     ID_CAPTION = 10035,
 };
 
-using Ids = std::initializer_list<int>;
+using Ids = std::vector<int>;
 using Texts = std::vector<std::string>;
 
 /// A host's fluid dialog with every control that a controller knows, except those of `without`.
-inline win32::DialogBuilder FluidForm(Ids without) {
+inline win32::DialogBuilder FluidForm(const Ids& without) {
     win32::DialogBuilder form("Fluid", WS_POPUP | WS_CAPTION, {0, 0, 300, 300});
     const win32::DialogPlace place{0, 0, 100, 12};
-    const auto add = [&](int id, bool edit) {
-        if (std::ranges::find(without, id) != without.end()) return;
-        edit ? form.Edit(id, place) : form.Static(id, "", place, WS_GROUP);
-    };
+    const auto has = [&](int id) { return std::ranges::find(without, id) == without.end(); };
     form.ListBox(ID_LIST, {0, 20, 100, 60}, LBS_SORT);
     for (const int id :
          {ID_NAME, ID_TEMPERATURE, ID_PRESSURE, ID_DENSITY, ID_VISCOSITY, ID_MOLECULAR_WEIGHT,
           ID_CRITICAL_TEMPERATURE, ID_SPHEAT, ID_VAPOR_PRESSURE, ID_CRITICAL_PRESSURE}) {
-        add(id, true);
+        if (has(id)) form.Edit(id, place);
     }
     for (const int id :
          Ids{ID_CAPTION, ID_NOTE, ID_FIXED_NAME, 10012, 10013, 10015, 10016, 10018, 10026, 10028}) {
-        add(id, false);
+        if (has(id)) form.Static(id, "", place, WS_GROUP);
     }
-    if (std::ranges::find(without, int{ID_VAPOR}) == without.end()) {
-        form.RadioButton(ID_LIQUID, "Liquid", place, WS_GROUP | WS_TABSTOP);
-        form.RadioButton(ID_VAPOR, "Vapor", place);
-    }
+    form.RadioButton(ID_LIQUID, "Liquid", place, WS_GROUP | WS_TABSTOP);
+    form.RadioButton(ID_VAPOR, "Vapor", place);
     form.DefaultButton(IDOK, "OK", place).Button(IDCANCEL, "Cancel", place);
     return form;
 }
@@ -75,23 +71,14 @@ inline void ForgetFluidTables() {
 /// it isn't the form for conditions only.
 class FluidHost {
   public:
-    explicit FluidHost(const std::string& tables, Ids without = {ID_FIXED_NAME}, int useSG = 0,
-                       int absolute = 1)
+    explicit FluidHost(const std::string& tables, const Ids& without = {ID_FIXED_NAME},
+                       int useSG = 0, int absolute = 1)
         : fluid(HF_KELVIN, HF_KPA, absolute, 100.0, useSG), dialog(FluidForm(without)) {
         dialog.Forward([this](int id, int code) { fluid.DlgCommand(id, code); });
         EXPECT_EQ(fluid.InitFluids(dialog.Handle(), tables.c_str()), 1);
     }
 
-    Texts Listed() const {
-        Texts rows;
-        for (int row = 0; row < dialog.Send(ID_LIST, LB_GETCOUNT); ++row) {
-            char text[260];
-            dialog.Send(ID_LIST, LB_GETTEXT, static_cast<WPARAM>(row),
-                        reinterpret_cast<LPARAM>(text));
-            rows.emplace_back(text);
-        }
-        return rows;
-    }
+    Texts Listed() const { return dialog.Rows(ID_LIST); }
 
     std::string Selected() const {
         const LRESULT row = dialog.Send(ID_LIST, LB_GETCURSEL);
@@ -113,7 +100,7 @@ class FluidHost {
 
     void TypeConditions(const char* temperature, const char* pressure) const {
         Type(ID_TEMPERATURE, temperature);
-        Type(ID_PRESSURE, pressure);
+        if (pressure != nullptr) Type(ID_PRESSURE, pressure);
         Leave();
     }
 
@@ -134,6 +121,37 @@ class FluidHost {
     CFluidDlg fluid;
     TestDialog dialog;
 };
+
+inline FluidText Without(std::size_t slot) {
+    FluidText table;
+    table.formulas.at(slot) = table.formulas.at(slot).substr(0, 2) + "\t0";
+    return table;
+}
+
+/// A folder with the table of FluidText, and the same for one state only.
+struct PlainTables : TableFolder {
+    PlainTables() {
+        Add("Plain", {});
+        Add("Oil", Without(SLOT_VAPOR_DENSITY));
+        Add("Gas", Without(SLOT_LIQUID_DENSITY));
+        ForgetFluidTables();
+    }
+    void RemovePlain() const { std::filesystem::remove(Path("Plain.FTBL")); }
+};
+
+class FluidDialog : public ::testing::Test {
+  protected:
+    ~FluidDialog() override { Hydrofacts_SetLanguage(1033); }
+
+    PlainTables tables;
+    FluidHost host{tables.path};
+    CFluidDlg& fluid = host.fluid;
+};
+
+inline constexpr const char* kNoProperties =
+    "Fluid properties are not available at the specified temperature and pressure. ";
+inline constexpr const char* kNoLiquid =
+    "Liquid properties are not available at the specified temperature.";
 
 /// What the table of FluidText gives at 300 K, worked out by hand: a liquid at 200 kPa (density
 /// 1200 - T, viscosity 2.123456 - T / 1000, saturation 10 T - 2900), a vapor at 50 kPa (density

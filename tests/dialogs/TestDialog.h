@@ -48,6 +48,17 @@ class TestDialog {
         return SendDlgItemMessageA(handle_, id, message, wParam, lParam);
     }
 
+    /// The rows of a list box; of a combo box with its messages.
+    std::vector<std::string> Rows(int id, UINT count = LB_GETCOUNT, UINT get = LB_GETTEXT) const {
+        std::vector<std::string> rows;
+        for (LRESULT row = 0; row < Send(id, count); ++row) {
+            std::array<char, 260> text{};
+            Send(id, get, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+            rows.emplace_back(text.data());
+        }
+        return rows;
+    }
+
     /// From here on each notification goes to `handler`.
     void Forward(Handler handler) { handler_ = std::move(handler); }
 
