@@ -9,10 +9,15 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <ostream>
 #include <string>
 #include <vector>
 
 #include "fuzz/Targets.h"
+
+namespace hydrofacts::fuzz {
+void PrintTo(const Target& target, std::ostream* out) { *out << target.name; }
+}  // namespace hydrofacts::fuzz
 
 namespace {
 
