@@ -3,10 +3,13 @@
 
 #include <mutex>
 #include <string>
+#include <tuple>
 
 #include "hydrofacts/dialogs/CFluidScan.h"
 #include "hydrofacts/dialogs/FluidNames.h"
 #include "hydrofacts/frame/Module.h"
+#include "hydrofacts/pipe/CPipeTable.h"
+#include "hydrofacts/valve/CValveTable.h"
 #include "tests/support/TableText.h"
 #include "tests/support/TempFolder.h"
 
@@ -58,5 +61,31 @@ class Tables : public TempFolder {
         for (int i = 1; i < kManyTables; ++i) Write(std::to_string(i) + ".FTBL", kFluidTable);
     }
 };
+
+/// What is read of the three tables of a folder, each -1 if it is refused: kg/m³ at 300 K and 900
+/// kPa, the inside diameter of schedule 40, size 3, and how many of the two devices there are.
+using Found = std::tuple<double, double, int>;
+inline const Found kAll{900.0, 3.068, 2};
+inline const Found kNone{-1.0, -1.0, -1};
+
+inline Found Read(const Tables& tables) {
+    Found found = kNone;
+    auto& [density, diameter, devices] = found;
+    CFluid fluid(HF_KELVIN, HF_KPA, 1, 0.0);
+    std::string path = tables.path;
+    if (fluid.SetFluid(path.data(), "Plain", 300.0, 900.0) == 0) {
+        density = fluid.GetDensity();
+    }
+    CPipeTable pipe(HF_US);
+    if (pipe.LoadMaterial(path.c_str(), "Steel") && pipe.LoadPipeList("40", nullptr)) {
+        diameter = pipe.PipeDia(3.0);
+    }
+    CValveTable valves;
+    if (valves.LoadValveTable(path.c_str(), "Standard", HF_US, kFormulas) != 0) {
+        devices =
+            (valves.Find("Gate") != nullptr ? 1 : 0) + (valves.Find("Elbow") != nullptr ? 1 : 0);
+    }
+    return found;
+}
 
 #endif
