@@ -10,6 +10,7 @@
 
 #include "hydrofacts/dialogs/Atmospheric_Pressure_From_Elevation_Dialog.h"
 #include "hydrofacts/frame/Language.h"
+#include "hydrofacts/frame/Module.h"
 #include "tests/dialogs/TestDialog.h"
 
 namespace {
@@ -165,6 +166,11 @@ TEST_F(ElevationDlg, OpensAtItsPlaceWithTheControlsOfItsTemplate) {
         const RECT window = PlaceOf(dialog);
         EXPECT_THAT((std::vector{window.left, window.top, client.right, client.bottom}),
                     ElementsAre(123, 77, size.right, size.bottom));
+        const HWND modeless = CreateDialogParamA(hydrofacts::ModuleHandle(), MAKEINTRESOURCEA(109),
+                                                 dialog, nullptr, 0);
+        const RECT same = PlaceOf(modeless);
+        EXPECT_EQ(same.right - same.left, window.right - window.left);
+        DestroyWindow(modeless);
         const RECT origin = PlaceOf(GetDlgItem(dialog, ID_ELEVATION));
         for (const auto& expected : kControls) {
             SCOPED_TRACE(expected.id);

@@ -213,8 +213,12 @@ TEST_F(EditView, HasSeveralLines) {
     Press(Qt::Key_Right);  // over both characters of the line's end
     Press(Qt::Key_Backspace);
     EXPECT_EQ(Text(kLines), "firstsecond");
+    Press(Qt::Key_Return);  // there is no default button, and no wish for lines
     Type("\xC3\xA4");
     EXPECT_EQ(lines.toPlainText(), QString::fromUtf8("firstäsecond"));
+    TakeLog();
+    Press(Qt::Key_Escape);
+    EXPECT_THAT(TakeLog(), testing::Contains(Notification{IDCANCEL, BN_CLICKED}));
     Press(Qt::Key_Tab);
     EXPECT_EQ(GetFocus(), Item(kTemperature));
 }

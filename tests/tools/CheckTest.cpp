@@ -206,6 +206,8 @@ TEST_F(TableCheck, FindsWhatIsInvalidOrSuspiciousInAFluid) {
             {"|280|400|", "|400|280|", 3, 6, "280 K is not above the lowest, 400 K"},
             {"|250|500|", "|250|250|", 3, 8, "250 K is not above the lowest"},
             {"P4|1|5|-0.01", "P4|0", 6, 0, "!P3 is left out, for the liquid formulas"},
+            {"P3|1|1100|-0.5\nP4|1|5|-0.01\nP5|1|0\nP6|1|0.01\nP7|1|33.2576",
+             "P3|0\nP4|0\nP5|0\nP6|0\nP7|0", 3, 0, "neither all liquid formulas"},
             {"P5|1|0", "P5|2", 8, 3, "!acentric factor is missing"},
             {"P7|1|33.2576\n", "P7|1|33.2576\nP8|1\n", 11, 0, "!behind P7 is not read"},
             {"P4|1|5|", "P4|1|4|", 7, 0, "!liquid viscosity is 0 at 400 K"},

@@ -55,6 +55,9 @@ TEST_F(PlotCommand, DrawsWhatTheFormulasGiveOverTheirRanges) {
     const auto ratios = Panels("Sample k")[0]["series"][0]["points"];
     EXPECT_NEAR(ratios.front()[1], 4.0 / 3, 1e-9);
     EXPECT_EQ(Panels("Sample viscosity --state LIQUID").size(), 1U);
+    const auto saturation = Panels("Sample vapor-pressure" + kBaseUnits)[0]["series"];
+    ASSERT_EQ(saturation.size(), 1U);
+    EXPECT_NEAR(saturation[0]["points"].back()[1], 250.0, 1e-9);
     const auto blend = Panels("Blend vapor-pressure" + kBaseUnits)[0]["series"];
     EXPECT_EQ(blend[0]["label"], "bubble point");
     EXPECT_NEAR(blend[1]["points"].back()[1], 200.0, 1e-9);  // T - 250 kPa at the critical point
