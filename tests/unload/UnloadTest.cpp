@@ -24,7 +24,8 @@ namespace {
 void* Load() { return LoadLibraryA(HYDROFACTS_LIBRARY); }
 template <class Function>
 Function* Find(void* library, const char* name) {
-    return reinterpret_cast<Function*>(GetProcAddress(static_cast<HMODULE>(library), name));
+    return reinterpret_cast<Function*>(
+        reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(library), name)));
 }
 void LetGo(void* library) { FreeLibrary(static_cast<HMODULE>(library)); }
 bool IsLoaded() { return GetModuleHandleA(HYDROFACTS_LIBRARY) != nullptr; }
