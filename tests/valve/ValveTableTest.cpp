@@ -4,6 +4,7 @@
 
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "hydrofacts/valve/CValveTable.h"
 #include "tests/support/TableText.h"
@@ -146,10 +147,10 @@ TEST_F(ValveTable, CopiesOwnTheirRecords) {
     OpenTable target = Load("Z|Valve|\"other\"|1|1|2|3|4\n");
     {
         OpenTable source = Load("Z|Bend|\"a\"|1|1|2|3|4\nZ|Bend|\"b\"|9|5|6|7|8\n");
-        const OpenTable copy = source;
+        const std::vector<OpenTable> copies{source};
         target = source;
         source.List(1)->data[0] = 7.0;
-        EXPECT_EQ(copy.Records(), target.Records());
+        EXPECT_EQ(copies[0].Records(), target.Records());
     }
     OpenTable& same = target;
     target = same;
