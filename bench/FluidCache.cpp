@@ -7,30 +7,23 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
 #include <map>
 #include <string>
 
 #include "bench/Ratios.h"
 #include "bench/Toluene.h"
+#include "tests/support/TempFolder.h"
 
 namespace {
 
 /// A folder with copies of one table, kept until the program ends.
-class Copies {
+class Copies : public TempFolder {
   public:
-    explicit Copies(int count) : folder_(std::to_string(count)) {
+    explicit Copies(int count) {
         for (int i = 0; i < count; ++i) {
-            const std::string name = "Fluid " + std::to_string(i) + ".FTBL";
-            std::ofstream(folder_.Path() / name, std::ios::binary) << bench::kTable;
+            Write("Fluid " + std::to_string(i) + ".FTBL", bench::kTable);
         }
     }
-
-    std::string Folder() const { return folder_.Path().string(); }
-
-  private:
-    bench::Folder folder_;
 };
 
 const Copies& CopiesOf(int count) {
@@ -40,7 +33,7 @@ const Copies& CopiesOf(int count) {
 
 // A state that no table has: every table is loaded, none is listed, so that each dialog scans anew.
 void Scan(benchmark::State& state, int count) {
-    const std::string folder = CopiesOf(count).Folder();
+    const std::string folder = CopiesOf(count).Path();
     for (auto _ : state) {
         CFluidDlg dialog(HF_DEG_C, HF_KPA, 0, 101.325, 0);
         dialog.InitFluids(nullptr, folder.c_str(), FLUID_USER_LIQUID);
@@ -58,7 +51,7 @@ bool ReadOne(int folder, const char* name) {
 }
 
 void Read(benchmark::State& state, int count) {
-    const std::string folder = CopiesOf(count).Folder();
+    const std::string folder = CopiesOf(count).Path();
     for (auto _ : state) {
         DIR* const listing = ::opendir(folder.c_str());
         int files = 0;

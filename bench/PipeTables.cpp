@@ -7,14 +7,13 @@
 
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "bench/Folder.h"
 #include "bench/Ratios.h"
 #include "hydrofacts/hydrofacts.h"
+#include "tests/support/TempFolder.h"
 
 namespace {
 
@@ -103,9 +102,9 @@ class ManyTables {
   public:
     explicit ManyTables(std::int64_t count) {
         for (std::int64_t i = 0; i < count; ++i) {
-            std::ofstream(Path() / ("Material " + std::to_string(i) + ".PTBL"))
-                << "S\t\"Material\"\r\nV\t\"1.0\"\tbenchmark\t1\t7\r\nR\t0.0018\t0.0457\t140\r\n"
-                   "Z\t40\t1\t25\t1.049\t1.315\t26.64\t33.4\r\n";
+            folder_.Write("Material " + std::to_string(i) + ".PTBL",
+                          "S\t\"Material\"\r\nV\t\"1.0\"\tbenchmark\t1\t7\r\n"
+                          "R\t0.0018\t0.0457\t140\r\nZ\t40\t1\t25\t1.049\t1.315\t26.64\t33.4\r\n");
         }
         SetDirectory(DIR_TABLES, Path().c_str());
     }
@@ -113,10 +112,10 @@ class ManyTables {
     ManyTables(const ManyTables&) = delete;
     ManyTables& operator=(const ManyTables&) = delete;
 
-    const std::filesystem::path& Path() const { return folder_.Path(); }
+    std::string Path() const { return folder_.Path(); }
 
   private:
-    bench::Folder folder_{"many"};
+    TempFolder folder_;
 };
 
 void CountPerTable(benchmark::State& state) {

@@ -1,11 +1,10 @@
 #ifndef HYDROFACTS_BENCH_TOLUENE_H
 #define HYDROFACTS_BENCH_TOLUENE_H
 
-#include <fstream>
 #include <string>
 
-#include "bench/Folder.h"
 #include "hydrofacts/hydrofacts.h"
+#include "tests/support/TempFolder.h"
 
 namespace bench {
 
@@ -35,15 +34,11 @@ inline const char* const kTable =
     "P7\t2\t58140\t286300\t1440.6\t189800\t650.43\r\n";
 
 /// A folder with the table in it, kept until the program ends.
-class TableFolder {
+class TableFolder : public TempFolder {
   public:
-    TableFolder() { std::ofstream(File(), std::ios::binary) << kTable; }
+    TableFolder() { Write("Toluene.FTBL", kTable); }
 
-    std::string Path() const { return folder_.Path().string(); }
-    std::string File() const { return Path() + "/Toluene.FTBL"; }
-
-  private:
-    Folder folder_{"tables"};
+    std::string File() const { return Path("Toluene.FTBL"); }
 };
 
 inline const TableFolder& Tables() {

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-/// A folder of a test's own, also where the tests run twice at once: empty at first and gone at its
-/// end.
+/// A folder of a test's or a benchmark's own, also where they run twice at once: empty at first and
+/// gone at its end.
 class TempFolder {
   public:
     TempFolder() {
