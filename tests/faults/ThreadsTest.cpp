@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "hydrofacts/dialogs/FluidTableCache.h"
+#include "hydrofacts/frame/Language.h"
 #include "hydrofacts/pipe/CPipeTableList.h"
 #include "hydrofacts/valve/CValveTable.h"
 #include "quillbase/Directory.h"
@@ -45,7 +46,7 @@ class SharedServices : public ::testing::Test {
     Tables tables_;
 };
 
-TEST_F(SharedServices, ThreadsStartTheListOfFluidsAtOnceAndAllSeeOneScan) {
+TEST_F(SharedServices, ThreadsStartTheListOfFluidsWhileTheLanguageChangesAndAllSeeOneScan) {
     ForgetFluidTables();
     const auto start = [] {
         InitFluidTableCache(FLUID_NONE);
@@ -56,7 +57,19 @@ TEST_F(SharedServices, ThreadsStartTheListOfFluidsAtOnceAndAllSeeOneScan) {
         CFluidScan().LoadFluidNames(tables_.path.c_str(), FLUID_NONE, 0.0, 0.0);
         return std::ranges::count(hydrofacts::FluidNamesFound(), '\t') == kManyTables ? 0 : 1;
     };
-    EXPECT_EQ(RunAtOnce({start, start, scan, start, scan, start, scan}), 0);
+    const auto speak = [](unsigned long language) {
+        int faults = 0;
+        for (int i = 0; i < kRounds * 10; ++i) {
+            char text[160];
+            Hydrofacts_SetLanguage(language);
+            if (Hydrofacts_GetMessage(6, text, sizeof text) == 0) ++faults;
+        }
+        return faults;
+    };
+    const Work german = [&speak] { return speak(1031); };
+    const Work english = [&speak] { return speak(1033); };
+    EXPECT_EQ(RunAtOnce({start, start, scan, start, scan, german, start, english, scan}), 0);
+    Hydrofacts_SetLanguage(1033);
 }
 
 // Lookups of one object are allowed to several threads, as long as none of them loads.
